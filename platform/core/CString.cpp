@@ -1,0 +1,1 @@
+#include <ruqlib2core/Export.h>

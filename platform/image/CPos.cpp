@@ -1,0 +1,1 @@
+#include <ruqlib2image/Export.h>

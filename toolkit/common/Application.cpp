@@ -1,0 +1,1 @@
+#include <qt3/Export.h>
