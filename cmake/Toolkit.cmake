@@ -1,18 +1,17 @@
-# The toolkit that the library is built on, as the target ruqgui_toolkit_api,
+# The toolkit that the library is built on, as the target ruqgui_toolkit_api; its own target, which
+# programs that use an installed library link to, as RUQGUI_TOOLKIT_TARGET;
 # and ruqgui_moc(<target> <header>...), which runs that toolkit's meta-object compiler.
 
 add_library(ruqgui_toolkit_api INTERFACE)
 
 if(RUQGUI_TOOLKIT STREQUAL qt6)
+    set(RUQGUI_TOOLKIT_TARGET Qt6::Widgets)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
-    target_link_libraries(ruqgui_toolkit_api INTERFACE Qt6::Widgets)
+    target_link_libraries(ruqgui_toolkit_api INTERFACE ${RUQGUI_TOOLKIT_TARGET})
 elseif(RUQGUI_TOOLKIT STREQUAL qt3)
-    find_library(RUQGUI_QT3_LIBRARY qt-mt HINTS ${RUQGUI_QT3_DIR}/lib NO_DEFAULT_PATH REQUIRED)
-    find_program(RUQGUI_QT3_MOC moc HINTS ${RUQGUI_QT3_DIR}/bin NO_DEFAULT_PATH REQUIRED)
-    target_link_libraries(ruqgui_toolkit_api INTERFACE ${RUQGUI_QT3_LIBRARY})
-    # SYSTEM: the headers are older than today's warnings.
-    target_include_directories(ruqgui_toolkit_api SYSTEM INTERFACE ${RUQGUI_QT3_DIR}/include)
-    target_compile_definitions(ruqgui_toolkit_api INTERFACE QT_THREAD_SUPPORT)
+    set(RUQGUI_TOOLKIT_TARGET ruqgui::qt3)
+    include(Qt3)
+    target_link_libraries(ruqgui_toolkit_api INTERFACE ${RUQGUI_TOOLKIT_TARGET})
 elseif(NOT RUQGUI_TOOLKIT STREQUAL none)
     message(FATAL_ERROR "RUQGUI_TOOLKIT is '${RUQGUI_TOOLKIT}': it must be qt6, qt3 or none")
 endif()
