@@ -1,0 +1,11 @@
+#include <qt3/ColorDialog.h>
+
+#include <qcolordialog.h>
+
+namespace qt3 {
+
+QColor ColorDialog::getColor(const QColor& initial, QWidget* parent, const char* name) {
+    return QColorDialog::getColor(initial, parent, name);
+}
+
+} // namespace qt3

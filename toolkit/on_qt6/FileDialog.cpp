@@ -1,0 +1,117 @@
+#include <qt3/FileDialog.h>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPointer>
+
+namespace qt3 {
+
+namespace {
+
+bool s_bNative = true;
+
+QString& lastFolder() {
+    static QString folder = QDir::currentPath();
+    return folder;
+}
+
+// Settles the folder to show, and gives the name to fill in.
+QString takeStartPath(const QString& path) {
+    if (path.isEmpty())
+        return QString();
+    const QFileInfo start(path);
+    if (start.isDir()) {
+        lastFolder() = path;
+        return QString();
+    }
+    if (!QFileInfo::exists(start.path()))
+        return QString();
+    lastFolder() = start.path();
+    return start.fileName();
+}
+
+QStringList filterList(const QString& filter) {
+    if (filter.isEmpty())
+        return QStringList("All Files (*)");
+    const QString separator = filter.contains(";;") || !filter.contains('\n') ? ";;" : "\n";
+    return filter.split(separator, Qt::SkipEmptyParts);
+}
+
+QString resolveFolder(const QString& path) {
+    const QFileInfo file(path);
+    const QString folder = file.dir().canonicalPath();
+    return folder.isEmpty() ? path : QDir(folder).filePath(file.fileName());
+}
+
+QStringList resolveFolders(const QStringList& paths) {
+    QStringList resolved;
+    for (const QString& path : paths)
+        resolved.append(resolveFolder(path));
+    return resolved;
+}
+
+// A dialog object and not the toolkit's static functions: those take no object name and ask about
+// existing files.
+QFileDialog* makeDialog(const QString& filter, QWidget* parent, const char* name,
+                        const QString& caption) {
+    QFileDialog* dialog = new QFileDialog(parent, caption, lastFolder());
+    dialog->setObjectName(QLatin1String(name));
+    dialog->setOption(QFileDialog::DontUseNativeDialog, !s_bNative);
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
+    dialog->setNameFilters(filterList(filter));
+    return dialog;
+}
+
+QStringList run(QFileDialog* newDialog) {
+    const QPointer<QFileDialog> dialog = newDialog;
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (!dialog)
+        return QStringList();
+    lastFolder() = dialog->directory().absolutePath();
+    const QStringList chosen = accepted ? resolveFolders(dialog->selectedFiles()) : QStringList();
+    delete dialog;
+    return chosen;
+}
+
+QString first(const QStringList& paths) {
+    return paths.isEmpty() ? QString() : paths.first();
+}
+
+} // namespace
+
+QString FileDialog::getOpenFileName(const QString& startWith, const QString& filter,
+                                    QWidget* parent, const char* name, const QString& caption) {
+    const QString fileName = takeStartPath(startWith);
+    QFileDialog* dialog = makeDialog(filter, parent, name, caption);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    if (!fileName.isEmpty())
+        dialog->selectFile(fileName);
+    return first(run(dialog));
+}
+
+QStringList FileDialog::getOpenFileNames(const QString& filter, const QString& dir, QWidget* parent,
+                                         const char* name, const QString& caption) {
+    if (QFileInfo(dir).isDir())
+        lastFolder() = dir;
+    QFileDialog* dialog = makeDialog(filter, parent, name, caption);
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    return run(dialog);
+}
+
+QString FileDialog::getSaveFileName(const QString& startWith, const QString& filter,
+                                    QWidget* parent, const char* name, const QString& caption) {
+    const QString fileName = takeStartPath(startWith);
+    QFileDialog* dialog = makeDialog(filter, parent, name, caption);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    if (!fileName.isEmpty())
+        dialog->selectFile(fileName);
+    return first(run(dialog));
+}
+
+void useNativeDialogs(bool use) {
+    s_bNative = use;
+}
+
+} // namespace qt3
