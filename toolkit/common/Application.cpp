@@ -1,1 +1,0 @@
-#include <qt3/Export.h>

@@ -1,0 +1,36 @@
+#ifndef RUQGUI_QT3_WIDGETFUNCTIONS_H
+#define RUQGUI_QT3_WIDGETFUNCTIONS_H
+
+#include <qt3/Export.h>
+#include <qt3/Global.h>
+
+#include <string>
+
+class QObject;
+class QWidget;
+
+namespace qt3 {
+
+/// The object name of any object, "unnamed" when it has none.
+RUQGUI_EXPORT std::string name(const QObject* object);
+
+/// Paints at once what is visible of \a widget; nothing when it is hidden or its updates are off.
+/// \param erase fill the background first, where the toolkit does not do so anyway
+RUQGUI_EXPORT void repaint(QWidget* widget, bool erase);
+
+/// Lets the toolkit polish \a widget again at its next show.
+RUQGUI_EXPORT void clearPolished(QWidget* widget);
+
+/// The colours that \a widget has in the given state: QPalette::Active, Inactive or Disabled.
+RUQGUI_EXPORT ColorGroup colorGroup(const QWidget* widget, QPalette::ColorGroup state);
+
+/// Sets both policies; stretch factors and height-for-width stay.
+RUQGUI_EXPORT void setSizePolicy(QWidget* widget, SizeType horizontal, SizeType vertical);
+
+/// Gives \a target what can be read of \a source: size limits and policy, geometry, palette, font,
+/// caption, and whether it is enabled by itself. Parent, name and flags stay.
+RUQGUI_EXPORT void takeOver(QWidget* target, const QWidget* source);
+
+} // namespace qt3
+
+#endif

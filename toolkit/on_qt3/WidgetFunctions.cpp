@@ -1,0 +1,59 @@
+#include <qt3/WidgetFunctions.h>
+
+#include <qobject.h>
+
+namespace qt3 {
+namespace {
+
+/// Reaches the protected state of any widget; adds nothing to it.
+class State : public QWidget {
+public:
+    static void clear(QWidget* widget, WState state) { (widget->*(&State::clearWState))(state); }
+};
+
+} // namespace
+
+std::string name(const QObject* object) {
+    return object->name();
+}
+
+void repaint(QWidget* widget, bool erase) {
+    widget->repaint(erase);
+}
+
+void clearPolished(QWidget* widget) {
+    State::clear(widget, Qt::WState_Polished);
+}
+
+ColorGroup colorGroup(const QWidget* widget, QPalette::ColorGroup state) {
+    const QPalette& palette = widget->palette();
+    if (state == QPalette::Disabled)
+        return palette.disabled();
+    return state == QPalette::Active ? palette.active() : palette.inactive();
+}
+
+void setSizePolicy(QWidget* widget, SizeType horizontal, SizeType vertical) {
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setHorData(horizontal);
+    policy.setVerData(vertical);
+    widget->setSizePolicy(policy);
+}
+
+void takeOver(QWidget* target, const QWidget* source) {
+    target->setMinimumSize(source->minimumSize());
+    target->setMaximumSize(source->maximumSize());
+    target->setSizePolicy(source->sizePolicy());
+    target->setGeometry(source->geometry());
+    if (source->ownPalette())
+        target->setPalette(source->palette());
+    else
+        target->unsetPalette();
+    if (source->ownFont())
+        target->setFont(source->font());
+    else
+        target->unsetFont();
+    target->setCaption(source->caption());
+    target->setEnabled(source->isEnabledTo(source->parentWidget()));
+}
+
+} // namespace qt3

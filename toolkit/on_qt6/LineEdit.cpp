@@ -1,0 +1,48 @@
+#include <qt3/LineEdit.h>
+
+#include <qt3/Text.h>
+
+namespace qt3 {
+namespace {
+
+void takeOverField(QLineEdit* target, const QLineEdit* source) {
+    takeOver(target, source);
+    target->setFrame(source->hasFrame());
+    target->setAlignment(source->alignment());
+    target->setMaxLength(source->maxLength());
+    target->setEchoMode(source->echoMode());
+    target->setReadOnly(source->isReadOnly());
+    target->setValidator(source->validator());
+    target->setText(source->text());
+}
+
+} // namespace
+
+LineEdit::LineEdit(QWidget* parent, const char* name) : Bridged<QLineEdit>(name, parent) {}
+
+LineEdit::LineEdit(const QString& text, QWidget* parent, const char* name)
+    : Bridged<QLineEdit>(name, text, parent) {}
+
+LineEdit::LineEdit(const LineEdit& other)
+    : Bridged<QLineEdit>(other.name(nullptr), other.parentWidget()) {
+    takeOverField(this, &other);
+}
+
+LineEdit& LineEdit::operator=(const LineEdit& other) {
+    if (this != &other) {
+        setName(other.name(nullptr));
+        takeOverField(this, &other);
+    }
+    return *this;
+}
+
+LineEdit::~LineEdit() = default;
+
+void LineEdit::setSelection(int start, int length) {
+    if (length < 0 || start < 0 || start > qt3::length(text()))
+        deselect();
+    else
+        QLineEdit::setSelection(start, length);
+}
+
+} // namespace qt3
