@@ -1,0 +1,39 @@
+#include "Display.h"
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <execinfo.h>
+#include <gtest/gtest.h>
+#include <qapplication.h>
+#include <unistd.h>
+
+namespace {
+
+const unsigned c_patience = 60; // seconds
+
+void tellWhereItHangs(int) {
+    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
+    std::fprintf(stderr, "No end after %u seconds: %s.%s hangs here:\n", c_patience,
+                 test ? test->test_suite_name() : "", test ? test->name() : "");
+    void* frames[100];
+    backtrace_symbols_fd(frames, backtrace(frames, 100), STDERR_FILENO);
+    std::abort();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    // The list is asked for at build time, where there is no display.
+    if (GTEST_FLAG_GET(list_tests))
+        return RUN_ALL_TESTS();
+
+    std::signal(SIGALRM, tellWhereItHangs);
+    alarm(c_patience);
+    support::prepareDisplay();
+    QApplication::setDesktopSettingsAware(false);
+    QApplication::setStyle("windows");
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
