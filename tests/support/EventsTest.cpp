@@ -89,8 +89,9 @@ TEST(Events, DragEndsWhereItShould) {
                                               "move 9,3 none", "release 9,3 left"}));
 }
 
-TEST(Events, HoveringHoldsNoButton) {
+TEST(Events, HoveringReachesAWidgetThatTracksTheMouse) {
     Probe probe;
+    probe.setMouseTracking(true);
 
     support::mouseMove(&probe, QPoint(3, 4), Button::None);
 
