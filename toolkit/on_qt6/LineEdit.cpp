@@ -2,6 +2,9 @@
 
 #include <qt3/Text.h>
 
+#include <qevent.h>
+#include <qvalidator.h>
+
 namespace qt3 {
 namespace {
 
@@ -43,6 +46,39 @@ void LineEdit::setSelection(int start, int length) {
         deselect();
     else
         QLineEdit::setSelection(start, length);
+}
+
+void LineEdit::keyPressEvent(QKeyEvent* event) {
+    const bool bTypesText =
+        !event->text().isEmpty() && event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter;
+    const bool bDeletes = event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
+    if ((bTypesText || bDeletes) && isRejected())
+        keyPressOverRejected(event);
+    else
+        Bridged<QLineEdit>::keyPressEvent(event);
+}
+
+bool LineEdit::isRejected() const {
+    QString copy = text();
+    int position = cursorPosition();
+    return validator() && validator()->validate(copy, position) == QValidator::Invalid;
+}
+
+void LineEdit::keyPressOverRejected(QKeyEvent* event) {
+    const QString before = text();
+    const int position = cursorPosition();
+    {
+        const QSignalBlocker silence(this); // nobody hears of an edit that is undone
+        Bridged<QLineEdit>::keyPressEvent(event);
+        if (text() != before && isRejected()) {
+            QLineEdit::setText(before);
+            setCursorPosition(position);
+        }
+    }
+    if (text() == before)
+        return;
+    emit textEdited(text());
+    emit textChanged(text());
 }
 
 } // namespace qt3

@@ -22,6 +22,15 @@ public:
 
     /// A negative length or a start outside the text deselects; a length beyond the end is cut.
     virtual void setSelection(int start, int length);
+
+protected:
+    /// A key that leaves a text which the validator rejects is undone, also when the text was
+    /// already rejected before.
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    bool isRejected() const;
+    void keyPressOverRejected(QKeyEvent* event);
 };
 
 } // namespace qt3
