@@ -2,8 +2,7 @@
 
 #include <cstdio>
 
-int main()
-{
+int main() {
     TEVU::CRangeControl spacing(0.0, 1.0, 0.25, 0.5, 0.0);
     spacing.addPage();
     spacing.addLine();

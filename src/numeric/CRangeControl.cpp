@@ -8,8 +8,7 @@ namespace TEVU {
 namespace {
 
 // Not std::abs: a step of -0.0 is not below zero and stays as it is.
-double withoutSign(double step)
-{
+double withoutSign(double step) {
     return step < 0.0 ? -step : step;
 }
 
@@ -17,50 +16,40 @@ double withoutSign(double step)
 
 CRangeControl::CRangeControl()
     : m_dMinValue(0.0), m_dMaxValue(99.0), m_dLineStep(1.0), m_dPageStep(10.0), m_dValue(0.0),
-      m_dPrevValue(-1.0), m_pPrivate(nullptr)
-{
-}
+      m_dPrevValue(-1.0), m_pPrivate(nullptr) {}
 
 CRangeControl::CRangeControl(double minValue, double maxValue, double lineStep, double pageStep,
                              double value)
     : m_dMinValue(minValue), m_dMaxValue(maxValue), m_dLineStep(withoutSign(lineStep)),
       m_dPageStep(withoutSign(pageStep)), m_dValue(bound(value)), m_dPrevValue(minValue - 1.0),
-      m_pPrivate(nullptr)
-{
-}
+      m_pPrivate(nullptr) {}
 
 CRangeControl::CRangeControl(const CRangeControl& other) = default;
 CRangeControl& CRangeControl::operator=(const CRangeControl& other) = default;
 CRangeControl::~CRangeControl() = default;
 
-double CRangeControl::value() const
-{
+double CRangeControl::value() const {
     return m_dValue;
 }
 
-double CRangeControl::minValue() const
-{
+double CRangeControl::minValue() const {
     return m_dMinValue;
 }
 
-double CRangeControl::maxValue() const
-{
+double CRangeControl::maxValue() const {
     return m_dMaxValue;
 }
 
-double CRangeControl::lineStep() const
-{
+double CRangeControl::lineStep() const {
     return m_dLineStep;
 }
 
-double CRangeControl::pageStep() const
-{
+double CRangeControl::pageStep() const {
     return m_dPageStep;
 }
 
 // Not std::clamp: that leaves a reversed range undefined, here the minimum wins.
-double CRangeControl::bound(double v) const
-{
+double CRangeControl::bound(double v) const {
     if (m_dMinValue > v)
         return m_dMinValue;
     if (v > m_dMaxValue)
@@ -68,35 +57,29 @@ double CRangeControl::bound(double v) const
     return v;
 }
 
-void CRangeControl::setValue(double v)
-{
+void CRangeControl::setValue(double v) {
     directSetValue(v);
     if (m_dValue != m_dPrevValue)
         valueChange();
 }
 
-void CRangeControl::addLine()
-{
+void CRangeControl::addLine() {
     setValue(value() + lineStep());
 }
 
-void CRangeControl::subtractLine()
-{
+void CRangeControl::subtractLine() {
     setValue(value() - lineStep());
 }
 
-void CRangeControl::addPage()
-{
+void CRangeControl::addPage() {
     setValue(value() + pageStep());
 }
 
-void CRangeControl::subtractPage()
-{
+void CRangeControl::subtractPage() {
     setValue(value() - pageStep());
 }
 
-void CRangeControl::setRange(double minValue, double maxValue)
-{
+void CRangeControl::setRange(double minValue, double maxValue) {
     if (minValue > maxValue) {
         qWarning("CRangeControl::setRange: minValue %lf > maxValue %lf", minValue, maxValue);
         maxValue = minValue;
@@ -116,18 +99,15 @@ void CRangeControl::setRange(double minValue, double maxValue)
     }
 }
 
-void CRangeControl::setMinValue(double v)
-{
+void CRangeControl::setMinValue(double v) {
     setRange(v, std::max(maxValue(), v));
 }
 
-void CRangeControl::setMaxValue(double v)
-{
+void CRangeControl::setMaxValue(double v) {
     setRange(std::min(minValue(), v), v);
 }
 
-void CRangeControl::setSteps(double lineStep, double pageStep)
-{
+void CRangeControl::setSteps(double lineStep, double pageStep) {
     if (lineStep == m_dLineStep && pageStep == m_dPageStep)
         return;
     m_dLineStep = withoutSign(lineStep);
@@ -135,13 +115,11 @@ void CRangeControl::setSteps(double lineStep, double pageStep)
     stepChange();
 }
 
-double CRangeControl::prevValue() const
-{
+double CRangeControl::prevValue() const {
     return m_dPrevValue;
 }
 
-void CRangeControl::directSetValue(double v)
-{
+void CRangeControl::directSetValue(double v) {
     m_dPrevValue = m_dValue;
     m_dValue = bound(v);
 }
