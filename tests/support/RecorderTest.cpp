@@ -7,8 +7,7 @@
 
 using support::Lines;
 
-TEST(Recorder, SignalsAndCallsShareOneOrder)
-{
+TEST(Recorder, SignalsAndCallsShareOneOrder) {
     QLineEdit edit(nullptr);
     support::Recorder recorder;
     recorder.tapAll(&edit, "edit");

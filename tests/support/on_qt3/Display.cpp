@@ -9,8 +9,7 @@ namespace support {
 // A virtual display starts anew when its last client leaves, and refuses connections meanwhile. The
 // tests before this one may have been the last clients. The connection is kept, so that there is no
 // such moment while the application object connects.
-void prepareDisplay()
-{
+void prepareDisplay() {
     static Display* s_display = XOpenDisplay(nullptr);
     for (int tries = 0; !s_display && tries < 100; ++tries) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));

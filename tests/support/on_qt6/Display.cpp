@@ -4,8 +4,7 @@
 
 namespace support {
 
-void prepareDisplay()
-{
+void prepareDisplay() {
     setenv("QT_QPA_PLATFORM", "offscreen", false);
 }
 

@@ -1,0 +1,121 @@
+#include "Dialogs.h"
+
+#include "Events.h"
+
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace support {
+
+namespace {
+
+const char* c_nameField = "fileNameEdit";
+
+QFileDialog* fileDialog(QWidget* dialog) {
+    return static_cast<QFileDialog*>(dialog);
+}
+
+QPushButton* standardButton(QWidget* dialog, QDialogButtonBox::StandardButton which) {
+    return child<QDialogButtonBox>(dialog)->button(which);
+}
+
+} // namespace
+
+DialogKind kindOf(QWidget* dialog) {
+    if (dialog->inherits("QMessageBox"))
+        return DialogKind::Message;
+    if (dialog->inherits("QFileDialog"))
+        return DialogKind::File;
+    return dialog->inherits("QColorDialog") ? DialogKind::Color : DialogKind::Other;
+}
+
+std::string nameOf(QWidget* dialog) {
+    return text(dialog->objectName());
+}
+
+std::string captionOf(QWidget* dialog) {
+    return text(dialog->windowTitle());
+}
+
+std::string messageIcon(QWidget* box) {
+    switch (static_cast<QMessageBox*>(box)->icon()) {
+    case QMessageBox::Information:
+        return "information";
+    case QMessageBox::Warning:
+        return "warning";
+    case QMessageBox::Critical:
+        return "critical";
+    default:
+        return "plain";
+    }
+}
+
+std::string messageText(QWidget* box) {
+    return text(static_cast<QMessageBox*>(box)->text());
+}
+
+// Not the box's own list of buttons: that is sorted by what the buttons are for.
+std::vector<QPushButton*> messageButtons(QWidget* box) {
+    const QList<QPushButton*> buttons = child<QDialogButtonBox>(box)->findChildren<QPushButton*>();
+    return std::vector<QPushButton*>(buttons.begin(), buttons.end());
+}
+
+std::string buttonLabel(QPushButton* button) {
+    return text(button->text().remove('&'));
+}
+
+std::string escapeLabel(QWidget* box) {
+    QAbstractButton* button = static_cast<QMessageBox*>(box)->escapeButton();
+    return button ? text(button->text().remove('&')) : "";
+}
+
+std::string folderOf(QWidget* dialog) {
+    return text(fileDialog(dialog)->directory().absolutePath());
+}
+
+std::string typedFileName(QWidget* dialog) {
+    return text(child<QLineEdit>(dialog, c_nameField)->text());
+}
+
+std::vector<std::string> filtersOf(QWidget* dialog) {
+    std::vector<std::string> filters;
+    for (const QString& filter : fileDialog(dialog)->nameFilters())
+        filters.push_back(text(filter));
+    return filters;
+}
+
+std::string fileModeOf(QWidget* dialog) {
+    if (fileDialog(dialog)->acceptMode() == QFileDialog::AcceptSave)
+        return "save";
+    return fileDialog(dialog)->fileMode() == QFileDialog::ExistingFiles ? "open several" : "open";
+}
+
+void typeFileName(QWidget* dialog, const std::string& text) {
+    child<QLineEdit>(dialog, c_nameField)->setText(QString::fromStdString(text));
+}
+
+QColor colorOf(QWidget* dialog) {
+    return static_cast<QColorDialog*>(dialog)->currentColor();
+}
+
+void setColor(QWidget* dialog, const QColor& color) {
+    static_cast<QColorDialog*>(dialog)->setCurrentColor(color);
+}
+
+QPushButton* acceptButton(QWidget* dialog) {
+    if (kindOf(dialog) == DialogKind::Color)
+        return standardButton(dialog, QDialogButtonBox::Ok);
+    const bool saves = fileModeOf(dialog) == "save";
+    return standardButton(dialog, saves ? QDialogButtonBox::Save : QDialogButtonBox::Open);
+}
+
+QPushButton* cancelButton(QWidget* dialog) {
+    return standardButton(dialog, QDialogButtonBox::Cancel);
+}
+
+} // namespace support
