@@ -24,8 +24,7 @@ struct StRangeControlPrivate;
 /// 3. lineStep() and pageStep() are not negative.
 ///
 /// GUI thread only. Copies take over all members and call no hook.
-class RUQGUI_EXPORT CRangeControl
-{
+class RUQGUI_EXPORT CRangeControl {
 public:
     /// Range [0, 99], steps 1 and 10, value 0, previous value -1. Calls no hook.
     CRangeControl();
@@ -77,8 +76,9 @@ protected:
     void directSetValue(double v);
 
     virtual void valueChange(); ///< Called after the value has changed; empty here.
-    virtual void rangeChange(); ///< Called after the range has changed, before valueChange(); empty here.
-    virtual void stepChange();  ///< Called after the steps have been set; empty here.
+    virtual void
+    rangeChange(); ///< Called after the range has changed, before valueChange(); empty here.
+    virtual void stepChange(); ///< Called after the steps have been set; empty here.
 
 private:
     double m_dMinValue;
