@@ -39,6 +39,10 @@ void setSizePolicy(QWidget* widget, SizeType horizontal, SizeType vertical) {
     widget->setSizePolicy(policy);
 }
 
+int textWidth(const QWidget* widget, const QString& text) {
+    return widget->fontMetrics().width(text);
+}
+
 void takeOver(QWidget* target, const QWidget* source) {
     target->setMinimumSize(source->minimumSize());
     target->setMaximumSize(source->maximumSize());

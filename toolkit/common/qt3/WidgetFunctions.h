@@ -4,6 +4,8 @@
 #include <qt3/Export.h>
 #include <qt3/Global.h>
 
+#include <qstring.h>
+
 #include <string>
 
 class QObject;
@@ -26,6 +28,9 @@ RUQGUI_EXPORT ColorGroup colorGroup(const QWidget* widget, QPalette::ColorGroup 
 
 /// Sets both policies; stretch factors and height-for-width stay.
 RUQGUI_EXPORT void setSizePolicy(QWidget* widget, SizeType horizontal, SizeType vertical);
+
+/// The pixels that \a text takes in the font of \a widget.
+RUQGUI_EXPORT int textWidth(const QWidget* widget, const QString& text);
 
 /// Gives \a target what can be read of \a source: size limits and policy, geometry, palette, font,
 /// caption, and whether it is enabled by itself. Parent, name and flags stay.

@@ -34,6 +34,15 @@ public:
 
     void setName(const char* newName) { this->setObjectName(QString::fromLatin1(newName)); }
 
+    QObject* qObject() { return this; }
+
+    /// The widget takes over the focus policy of \a proxy too.
+    void setFocusProxy(QWidget* proxy) {
+        Base::setFocusProxy(proxy);
+        if (proxy)
+            this->setFocusPolicy(proxy->focusPolicy());
+    }
+
     QString caption() const { return this->windowTitle(); }
     virtual void setCaption(const QString& text) { this->setWindowTitle(text); }
 
