@@ -186,9 +186,9 @@ private:
     QString m_sSpecialValueText;
     bool m_bEdited : 1; ///< The editor's text is pending: not yet read back into the value.
     bool m_bWrapping : 1;
-    qt3::Pointer<qt3::LineEdit> m_pEditor; ///< Of a copy, the original's.
-    void* m_pReserved;                     ///< For later extension; always null.
-    StDoubleSpinBoxPrivate* m_pPrivate;    ///< Owned.
+    qt3::Pointer<qt3::LineEdit> m_pEditor;              ///< Of a copy, the original's.
+    void* m_pReserved;                                  ///< For later extension; always null.
+    StDoubleSpinBoxPrivate* m_pPrivate;                 ///< Owned.
     qt3::Pointer<CDoubleSpinBoxValidator> m_pValidator; ///< Of a copy, the original's.
 };
 

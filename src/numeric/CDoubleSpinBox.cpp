@@ -213,9 +213,9 @@ QSize CDoubleSpinBox::minimumSizeHint() const {
     const qt3::SpinWidget* spinWidget = m_pPrivate->m_pSpinWidget;
     if (!m_pEditor || !spinWidget)
         return qt3::Widget::minimumSizeHint();
-    return QSize(m_pEditor->sizeHint().width() + downRect().width(),
-                 std::max(m_pEditor->minimumSizeHint().height(),
-                          spinWidget->minimumSizeHint().height()));
+    return QSize(
+        m_pEditor->sizeHint().width() + downRect().width(),
+        std::max(m_pEditor->minimumSizeHint().height(), spinWidget->minimumSizeHint().height()));
 }
 
 void CDoubleSpinBox::setMinValue(double minimum) {

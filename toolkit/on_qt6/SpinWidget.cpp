@@ -106,13 +106,9 @@ bool SpinWidget::event(QEvent* event) {
         setHovered(buttonAt(static_cast<QHoverEvent*>(event)->position().toPoint()));
     else if (event->type() == QEvent::HoverLeave)
         setHovered(None);
-    return Widget::event(event);
-}
-
-void SpinWidget::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+    else if (event->type() == QEvent::WindowDeactivate)
         letGo();
-    Widget::changeEvent(event);
+    return Widget::event(event);
 }
 
 void SpinWidget::mousePressEvent(QMouseEvent* event) {
@@ -220,8 +216,8 @@ QStyleOptionSpinBox SpinWidget::styleOption() const {
     QStyleOptionSpinBox option;
     option.initFrom(this);
     option.frame = true;
-    option.buttonSymbols = m_eSymbols == PlusMinus ? QAbstractSpinBox::PlusMinus
-                                                   : QAbstractSpinBox::UpDownArrows;
+    option.buttonSymbols =
+        m_eSymbols == PlusMinus ? QAbstractSpinBox::PlusMinus : QAbstractSpinBox::UpDownArrows;
     option.stepEnabled.setFlag(QAbstractSpinBox::StepUpEnabled, m_bUpEnabled);
     option.stepEnabled.setFlag(QAbstractSpinBox::StepDownEnabled, m_bDownEnabled);
     option.subControls = QStyle::SC_SpinBoxFrame | QStyle::SC_SpinBoxEditField |
