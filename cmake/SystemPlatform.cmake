@@ -16,7 +16,7 @@ foreach(part IN ITEMS core image)
                             "RUQGUI_PLATFORM_DIR to the folder that holds include and lib")
     endif()
     if(NOT TARGET ruqlib2::${part})
-        add_library(ruqlib2::${part} UNKNOWN IMPORTED)
+        add_library(ruqlib2::${part} UNKNOWN IMPORTED GLOBAL)
         set_target_properties(
             ruqlib2::${part} PROPERTIES IMPORTED_LOCATION ${${PART}_LIBRARY}
                                         INTERFACE_INCLUDE_DIRECTORIES ${${PART}_INCLUDE_DIR})
