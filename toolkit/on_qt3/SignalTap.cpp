@@ -75,7 +75,7 @@ bool SignalTap::listen(QObject* sender, const char* signal, Handler handler) {
     return true;
 }
 
-void SignalTap::listenToAll(QObject* sender, NamedHandler handler) {
+void SignalTap::listenToAll(QObject* sender, const NamedHandler& handler) {
     QMetaObject* meta = sender->metaObject();
     for (int i = 0; i < meta->numSignals(false); ++i) {
         const std::string name = signalName(meta->signal(i, false)->name);

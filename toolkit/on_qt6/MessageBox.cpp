@@ -69,7 +69,7 @@ void Box::closeEvent(QCloseEvent* event) {
     if (escapeButton())
         QMessageBox::closeEvent(event);
     else
-        QDialog::closeEvent(event);
+        QDialog::closeEvent(event); // NOLINT(bugprone-parent-virtual-call): QMessageBox refuses
 }
 
 void Box::keyPressEvent(QKeyEvent* event) {

@@ -4,6 +4,7 @@
 
 #include <QMetaMethod>
 #include <QObject>
+#include <utility>
 #include <vector>
 
 namespace qt3 {
@@ -55,7 +56,7 @@ void SignalTap::Receiver::listen(QObject* sender, const QMetaMethod& signal, Han
     while (isClone(sender->metaObject()->method(index)))
         --index;
     const int method = metaObject()->methodCount() + int(m_vLines.size());
-    m_vLines.push_back({types, handler});
+    m_vLines.push_back({types, std::move(handler)});
     QMetaObject::connect(sender, index, this, method, Qt::DirectConnection);
 }
 
@@ -79,11 +80,11 @@ bool SignalTap::listen(QObject* sender, const char* signal, Handler handler) {
     const int index = meta->indexOfSignal(QMetaObject::normalizedSignature(signal));
     if (index < 0)
         return false;
-    m_pReceiver->listen(sender, meta->method(index), handler);
+    m_pReceiver->listen(sender, meta->method(index), std::move(handler));
     return true;
 }
 
-void SignalTap::listenToAll(QObject* sender, NamedHandler handler) {
+void SignalTap::listenToAll(QObject* sender, const NamedHandler& handler) {
     const QMetaObject* meta = sender->metaObject();
     for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
         const QMetaMethod signal = meta->method(i);

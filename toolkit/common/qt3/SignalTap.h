@@ -40,7 +40,7 @@ public:
 
     /// Calls \a handler with the plain name and the arguments of every signal that \a sender's
     /// class itself declares. Inherited signals are left out.
-    void listenToAll(QObject* sender, NamedHandler handler);
+    void listenToAll(QObject* sender, const NamedHandler& handler);
 
 private:
     class Receiver;
