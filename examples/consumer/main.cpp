@@ -1,11 +1,15 @@
-#include <CRangeControl.h>
+#include <CRangeSliderSpinboxed.h>
 
-#include <cstdio>
+#include <iostream>
+#include <qapplication.h>
 
-int main() {
-    TEVU::CRangeControl spacing(0.0, 1.0, 0.25, 0.5, 0.0);
-    spacing.addPage();
-    spacing.addLine();
-    std::printf("%g\n", spacing.value());
-    return spacing.value() == 0.75 ? 0 : 1;
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QObject::connect(&application, SIGNAL(lastWindowClosed()), &application, SLOT(quit()));
+
+    TEVU::CRangeSliderSpinboxed greyValues(Qt::Horizontal, false, 20, 60, 0, 255, nullptr,
+                                           "greyValues");
+    greyValues.show();
+    application.exec();
+    std::cout << greyValues.GetLower() << " to " << greyValues.GetUpper() << std::endl;
 }
