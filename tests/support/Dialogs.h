@@ -35,12 +35,17 @@ std::vector<std::string> filtersOf(QWidget* dialog);
 /// "open", "open several" or "save".
 std::string fileModeOf(QWidget* dialog);
 void typeFileName(QWidget* dialog, const std::string& text);
+/// Ends the dialog with the name that is there.
+void acceptFileName(QWidget* dialog);
+/// Lets a dialog that has just been opened become what a user would see.
+void settle(QWidget* dialog);
 
 QColor colorOf(QWidget* dialog);
 void setColor(QWidget* dialog, const QColor& color);
 
-/// The buttons of the file dialog and the colour dialog.
-QPushButton* acceptButton(QWidget* dialog);
+void acceptColor(QWidget* dialog);
+
+/// Of a file dialog or a colour dialog.
 QPushButton* cancelButton(QWidget* dialog);
 
 } // namespace support

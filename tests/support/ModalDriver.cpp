@@ -150,7 +150,7 @@ void MessageStep::enter() {
 void FileStep::choose(const std::string& path) {
     answerWith(quoted(path), [=](QWidget* dialog) {
         typeFileName(dialog, path);
-        click(acceptButton(dialog));
+        acceptFileName(dialog);
     });
 }
 
@@ -160,12 +160,12 @@ void FileStep::chooseSeveral(const std::vector<std::string>& paths) {
         typed += '"' + path + "\" ";
     answerWith(joined(paths), [=](QWidget* dialog) {
         typeFileName(dialog, typed);
-        click(acceptButton(dialog));
+        acceptFileName(dialog);
     });
 }
 
 void FileStep::accept() {
-    answerWith("accept", [](QWidget* dialog) { click(acceptButton(dialog)); });
+    answerWith("accept", acceptFileName);
 }
 
 void FileStep::cancel() {
@@ -175,12 +175,12 @@ void FileStep::cancel() {
 void ColorStep::accept(const QColor& color) {
     answerWith(quoted(text(color.name())), [=](QWidget* dialog) {
         setColor(dialog, color);
-        click(acceptButton(dialog));
+        acceptColor(dialog);
     });
 }
 
 void ColorStep::accept() {
-    answerWith("accept", [](QWidget* dialog) { click(acceptButton(dialog)); });
+    answerWith("accept", acceptColor);
 }
 
 void ColorStep::cancel() {
@@ -293,6 +293,12 @@ ModalDriver::Open* ModalDriver::find(QObject* dialog) {
     return nullptr;
 }
 
+void ModalDriver::remember(QWidget* dialog) {
+    dialog->installEventFilter(this);
+    if (!find(dialog))
+        m_vOpen.push_back({dialog, Clock::now()});
+}
+
 // A dialog that is shown again after it was hidden is a further one.
 bool ModalDriver::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::Hide && !event->spontaneous())
@@ -303,6 +309,8 @@ bool ModalDriver::eventFilter(QObject* object, QEvent* event) {
 }
 
 void ModalDriver::meet(QWidget* dialog) {
+    remember(dialog);
+    settle(dialog);
     if (m_nNext < m_vSteps.size())
         return follow(*m_vSteps[m_nNext++], dialog);
     m_vLog.push_back(describe(dialog) + " -> unexpected");
@@ -317,8 +325,7 @@ void ModalDriver::follow(Step& step, QWidget* dialog) {
         ADD_FAILURE() << "not as expected: " << describe(dialog) << ": " << joined(differences);
         return dismiss(dialog);
     }
-    dialog->installEventFilter(this);
-    m_vOpen.push_back({dialog, Clock::now()});
+    remember(dialog); // looking at it may have hidden it for a moment
     if (step.m_hook)
         step.m_hook();
     if (Open* open = find(dialog)) {

@@ -164,6 +164,7 @@ private:
     MessageStep& addMessage(const std::optional<std::string>& icon, const Message& expected);
     void restartTimer();
     Open* find(QObject* dialog);
+    void remember(QWidget* dialog);
     void meet(QWidget* dialog);
     static std::vector<std::string> compare(const Step& step, QWidget* dialog);
     void follow(Step& step, QWidget* dialog);

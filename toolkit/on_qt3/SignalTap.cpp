@@ -35,6 +35,8 @@ std::string argumentText(const QUParameter& parameter, QUObject* argument) {
 /// The slot of a signal is its index here, behind the slots of the base.
 class SignalTap::Receiver : public QObject {
 public:
+    using QObject::normalizeSignalSlot;
+
     void listen(QObject* sender, int signal, Handler handler);
     bool qt_invoke(int slot, QUObject* arguments) override;
 
@@ -68,7 +70,7 @@ SignalTap::SignalTap() : m_pReceiver(new Receiver) {}
 SignalTap::~SignalTap() = default;
 
 bool SignalTap::listen(QObject* sender, const char* signal, Handler handler) {
-    const int index = sender->metaObject()->findSignal(signal, true);
+    const int index = sender->metaObject()->findSignal(Receiver::normalizeSignalSlot(signal), true);
     if (index < 0)
         return false;
     m_pReceiver->listen(sender, index, handler);

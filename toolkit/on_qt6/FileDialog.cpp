@@ -92,8 +92,7 @@ QString FileDialog::getOpenFileName(const QString& startWith, const QString& fil
 
 QStringList FileDialog::getOpenFileNames(const QString& filter, const QString& dir, QWidget* parent,
                                          const char* name, const QString& caption) {
-    if (QFileInfo(dir).isDir())
-        lastFolder() = dir;
+    takeStartPath(dir); // a file's name is not filled in here
     QFileDialog* dialog = makeDialog(filter, parent, name, caption);
     dialog->setFileMode(QFileDialog::ExistingFiles);
     return run(dialog);

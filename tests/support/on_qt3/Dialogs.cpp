@@ -7,6 +7,7 @@
 #include <qcombobox.h>
 #include <qfiledialog.h>
 #include <qlineedit.h>
+#include <qlistview.h>
 #include <qmessagebox.h>
 #include <qpushbutton.h>
 
@@ -123,6 +124,17 @@ void typeFileName(QWidget* dialog, const std::string& text) {
     child<QLineEdit>(dialog, c_nameField)->setText(QString::fromUtf8(text.c_str()));
 }
 
+void acceptFileName(QWidget* dialog) {
+    mouseClick(child<QPushButton>(dialog, "OK"));
+}
+
+// The files are listed some events later, which clears the name field. A folder that can be listed has
+// at least the entry of the one above.
+void settle(QWidget* dialog) {
+    if (kindOf(dialog) == DialogKind::File)
+        waitUntil([=] { return child<QListView>(dialog)->childCount() > 0; }, 500);
+}
+
 QColor colorOf(QWidget* dialog) {
     return QColor(channel(dialog, "qt_red_edit"), channel(dialog, "qt_grn_edit"),
                   channel(dialog, "qt_blue_edit"));
@@ -134,8 +146,8 @@ void setColor(QWidget* dialog, const QColor& color) {
     setChannel(dialog, "qt_blue_edit", color.blue());
 }
 
-QPushButton* acceptButton(QWidget* dialog) {
-    return child<QPushButton>(dialog, kindOf(dialog) == DialogKind::File ? "OK" : "qt_ok_btn");
+void acceptColor(QWidget* dialog) {
+    mouseClick(child<QPushButton>(dialog, "qt_ok_btn"));
 }
 
 QPushButton* cancelButton(QWidget* dialog) {

@@ -99,6 +99,13 @@ void typeFileName(QWidget* dialog, const std::string& text) {
     child<QLineEdit>(dialog, c_nameField)->setText(QString::fromStdString(text));
 }
 
+// By the key and not by the button: that is disabled for a file which the filter hides.
+void acceptFileName(QWidget* dialog) {
+    keyClick(child<QLineEdit>(dialog, c_nameField), Qt::Key_Return, Modifier::None, "\r");
+}
+
+void settle(QWidget*) {}
+
 QColor colorOf(QWidget* dialog) {
     return static_cast<QColorDialog*>(dialog)->currentColor();
 }
@@ -107,11 +114,8 @@ void setColor(QWidget* dialog, const QColor& color) {
     static_cast<QColorDialog*>(dialog)->setCurrentColor(color);
 }
 
-QPushButton* acceptButton(QWidget* dialog) {
-    if (kindOf(dialog) == DialogKind::Color)
-        return standardButton(dialog, QDialogButtonBox::Ok);
-    const bool saves = fileModeOf(dialog) == "save";
-    return standardButton(dialog, saves ? QDialogButtonBox::Save : QDialogButtonBox::Open);
+void acceptColor(QWidget* dialog) {
+    mouseClick(standardButton(dialog, QDialogButtonBox::Ok));
 }
 
 QPushButton* cancelButton(QWidget* dialog) {

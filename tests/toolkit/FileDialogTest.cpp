@@ -1,0 +1,327 @@
+#include <qt3/FileDialog.h>
+
+#include "Events.h"
+#include "ModalDriver.h"
+#include "TempDir.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <qwidget.h>
+
+using qt3::FileDialog;
+using support::ModalDriver;
+using Lines = std::vector<std::string>;
+
+namespace {
+
+const char* c_filter = "Images (*.tif *.tiff);;All (*)";
+
+QString ascii(const std::string& text) {
+    return QString::fromLatin1(text.c_str());
+}
+
+std::string openOne(const std::string& start, const char* filter = c_filter,
+                    QWidget* parent = nullptr) {
+    return support::text(FileDialog::getOpenFileName(ascii(start), filter, parent, "opendialog",
+                                                     "Choose a file..."));
+}
+
+Lines openSeveral(const std::string& start, const char* filter = c_filter,
+                  QWidget* parent = nullptr) {
+    Lines paths;
+    const QStringList chosen = FileDialog::getOpenFileNames(
+        filter, ascii(start), parent, "opendialog", "Select one or more files...");
+    for (QStringList::ConstIterator it = chosen.begin(); it != chosen.end(); ++it)
+        paths.push_back(support::text(*it));
+    return paths;
+}
+
+std::string save(const std::string& start, const char* filter = c_filter,
+                 QWidget* parent = nullptr) {
+    return support::text(FileDialog::getSaveFileName(ascii(start), filter, parent, "savedialog",
+                                                     "Specify a filename..."));
+}
+
+struct Way {
+    const char* name;
+    const char* mode;
+    const char* dialog;
+    const char* caption;
+    Lines (*run)(const std::string& start, const char* filter, QWidget* parent);
+};
+
+Lines listOf(const std::string& path) {
+    return path.empty() ? Lines() : Lines{path};
+}
+
+const Way c_ways[] = {
+    {"OpenOne", "open", "opendialog", "Choose a file...",
+     [](const std::string& start, const char* filter, QWidget* parent) {
+         return listOf(openOne(start, filter, parent));
+     }},
+    {"OpenSeveral", "open several", "opendialog", "Select one or more files...", openSeveral},
+    {"Save", "save", "savedialog", "Specify a filename...",
+     [](const std::string& start, const char* filter, QWidget* parent) {
+         return listOf(save(start, filter, parent));
+     }},
+};
+
+void PrintTo(const Way& way, std::ostream* stream) {
+    *stream << way.name;
+}
+
+support::FileRequest shows(const std::string& folder, const std::string& fileName) {
+    return {{}, {}, folder, fileName};
+}
+
+} // namespace
+
+class FileDialogWays : public testing::TestWithParam<Way> {
+protected:
+    Lines run(const std::string& start, const char* filter = c_filter, QWidget* parent = nullptr) {
+        return GetParam().run(start, filter, parent);
+    }
+
+    support::TempDir m_dir;
+};
+
+TEST_P(FileDialogWays, KeepNameCaptionParentAndFilters) {
+    QWidget window(nullptr);
+    ModalDriver driver;
+    driver
+        .expectFileDialog({GetParam().dialog,
+                           GetParam().caption,
+                           m_dir.path(),
+                           "",
+                           {"Images (*.tif *.tiff)", "All (*)"},
+                           GetParam().mode})
+        .under(&window)
+        .cancel();
+
+    EXPECT_EQ(run(m_dir.path(), c_filter, &window), Lines());
+}
+
+TEST_P(FileDialogWays, FiltersMayBeSeparatedByLineBreaks) {
+    ModalDriver driver;
+    driver.expectFileDialog({{}, {}, {}, {}, {"One (*.a)", "Two (*.b)"}}).cancel();
+
+    run(m_dir.path(), "One (*.a)\nTwo (*.b)");
+}
+
+TEST_P(FileDialogWays, AnEmptyFilterShowsAllFiles) {
+    ModalDriver driver;
+    driver.expectFileDialog({{}, {}, {}, {}, {"All Files (*)"}}).cancel();
+
+    run(m_dir.path(), "");
+}
+
+TEST_P(FileDialogWays, GiveNothingWithoutAChoice) {
+    ModalDriver driver;
+    driver.expectFileDialog({}).cancel();
+    driver.expectFileDialog({}).escape();
+    driver.expectFileDialog({}).close();
+
+    EXPECT_EQ(run(m_dir.path()), Lines());
+    EXPECT_EQ(run(m_dir.path()), Lines());
+    EXPECT_EQ(run(m_dir.path()), Lines());
+}
+
+TEST_P(FileDialogWays, GiveTheChosenFile) {
+    const std::string path = m_dir.writeFile("scan.tif");
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose(path);
+
+    EXPECT_EQ(run(m_dir.path()), Lines{path});
+}
+
+TEST_P(FileDialogWays, ATypedNameIsInTheFolderShown) {
+    const std::string path = m_dir.writeFile("scan.tif");
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose("scan.tif");
+
+    EXPECT_EQ(run(m_dir.path()), Lines{path});
+}
+
+TEST_P(FileDialogWays, BeginInTheWorkingDirectoryWithoutAStartPath) {
+    ModalDriver driver;
+    driver.expectFileDialog(shows(std::filesystem::current_path(), "")).cancel();
+
+    run("");
+}
+
+TEST_P(FileDialogWays, WithoutAStartPathShowTheFolderLastUsed) {
+    m_dir.writeFile("scan.tif");
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose("scan.tif");
+    driver.expectFileDialog(shows(m_dir.path(), "")).cancel();
+
+    run(m_dir.path());
+    run("");
+}
+
+TEST_P(FileDialogWays, TypedPathDoesNotChangeTheFolderLastUsed) {
+    m_dir.makeFolder("other");
+    m_dir.writeFile("other/scan.tif");
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose(m_dir.path("other/scan.tif"));
+    driver.expectFileDialog(shows(m_dir.path(), "")).cancel();
+
+    run(m_dir.path());
+    run("");
+}
+
+TEST_P(FileDialogWays, FolderIsRememberedOnCancelToo) {
+    ModalDriver driver;
+    driver.expectFileDialog(shows(m_dir.path(), "")).cancel();
+    driver.expectFileDialog(shows(m_dir.path(), "")).cancel();
+
+    run(m_dir.path());
+    run("");
+}
+
+TEST_P(FileDialogWays, ShareTheFolderLastUsed) {
+    ModalDriver driver;
+    driver.expectFileDialog({}).cancel();
+    for (int i = 0; i < 3; ++i)
+        driver.expectFileDialog(shows(m_dir.path(), "")).cancel();
+
+    run(m_dir.path());
+    openOne("");
+    openSeveral("");
+    save("");
+}
+
+TEST_P(FileDialogWays, LinkToAFileIsReturnedAsTheLink) {
+    m_dir.makeLink("link.tif", m_dir.writeFile("scan.tif"));
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose("link.tif");
+
+    EXPECT_EQ(run(m_dir.path()), Lines{m_dir.path("link.tif")});
+}
+
+TEST_P(FileDialogWays, StartFolderThatIsALinkIsResolved) {
+    const std::string folder = m_dir.makeFolder("real");
+    const std::string path = m_dir.writeFile("real/scan.tif");
+    const std::string link = m_dir.makeLink("link", folder);
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose("scan.tif");
+
+    EXPECT_EQ(run(link), Lines{path});
+}
+
+TEST_P(FileDialogWays, NamesMayHoldWhatPathsAndAddressesGiveAMeaning) {
+    for (const char* name :
+         {"a b.tif", "R&D.tif", "50%41.tif", "a#b.tif", "a+b;c.tif", "x.tar.gz"}) {
+        const std::string path = m_dir.writeFile(name);
+        ModalDriver driver;
+        driver.expectFileDialog({}).choose(path);
+
+        EXPECT_EQ(run(m_dir.path()), Lines{path});
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FileDialogWays, testing::ValuesIn(c_ways),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+/// What holds for one file, opened or saved.
+class FileDialogForOne : public FileDialogWays {};
+
+TEST_P(FileDialogForOne, StartFileInAFolderIsFilledIn) {
+    ModalDriver driver;
+    driver.expectFileDialog(shows(m_dir.path(), "missing.tif")).cancel();
+    driver.expectFileDialog(shows(m_dir.path(), "there.tif")).cancel();
+
+    run(m_dir.path("missing.tif"));
+    m_dir.writeFile("there.tif");
+    run(m_dir.path("there.tif"));
+}
+
+TEST_P(FileDialogForOne, StartFileIsAcceptedAsItStands) {
+    const std::string path = m_dir.writeFile("there.tif");
+    ModalDriver driver;
+    driver.expectFileDialog({}).accept();
+
+    EXPECT_EQ(run(path), Lines{path});
+}
+
+TEST_P(FileDialogForOne, StartFileInAMissingFolderShowsTheFolderLastUsedAndNoName) {
+    ModalDriver driver;
+    driver.expectFileDialog({}).cancel();
+    driver.expectFileDialog(shows(m_dir.path(), "")).cancel();
+
+    run(m_dir.path());
+    run(m_dir.path("missing/scan.tif"));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FileDialogForOne, testing::Values(c_ways[0], c_ways[2]),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(FileDialog, SeveralComeInTheOrderTyped) {
+    const support::TempDir dir;
+    const std::string a = dir.writeFile("a.tif");
+    const std::string b = dir.writeFile("b b.tif");
+    const std::string c = dir.writeFile("c.tif");
+    ModalDriver driver;
+    driver.expectFileDialog({}).chooseSeveral({"c.tif", "a.tif", "b b.tif"});
+
+    EXPECT_EQ(openSeveral(dir.path()), (Lines{c, a, b}));
+}
+
+TEST(FileDialog, SavingOverAFileIsNotAskedAbout) {
+    const support::TempDir dir;
+    const std::string path = dir.writeFile("scan.tif", "content");
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose(path);
+
+    EXPECT_EQ(save(dir.path()), path);
+    EXPECT_EQ(driver.log().size(), 1u);
+    EXPECT_EQ(dir.read("scan.tif"), "content");
+}
+
+TEST(FileDialog, SavingAppendsNoExtension) {
+    const support::TempDir dir;
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose("scan");
+
+    EXPECT_EQ(save(dir.path()), dir.path("scan"));
+}
+
+TEST(FileDialog, SavingIntoAMissingFolderIsAccepted) {
+    const support::TempDir dir;
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose(dir.path("missing/scan.tif"));
+
+    EXPECT_EQ(save(dir.path()), dir.path("missing/scan.tif"));
+}
+
+TEST(FileDialog, SavingKeepsCharactersBeyondAscii) {
+    const support::TempDir dir;
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose("caf\xc3\xa9.tif");
+
+    EXPECT_EQ(save(dir.path()), dir.path("caf\xc3\xa9.tif"));
+}
+
+TEST(FileDialog, LinkedFolderInATypedPathIsResolved) {
+    const support::TempDir dir;
+    dir.makeFolder("real");
+    const std::string path = dir.writeFile("real/scan.tif");
+    dir.makeLink("link", dir.path("real"));
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose(dir.path("link/scan.tif"));
+    driver.expectFileDialog({}).choose(dir.path("link/scan.tif"));
+
+    EXPECT_EQ(openOne(dir.path()), path);
+    EXPECT_EQ(save(dir.path()), path);
+}
+
+TEST(FileDialog, SeveralDoNotFillInAStartFile) {
+    const support::TempDir dir;
+    dir.makeFolder("other");
+    ModalDriver driver;
+    driver.expectFileDialog({}).cancel();
+    driver.expectFileDialog(shows(dir.path(), "")).cancel();
+
+    openSeveral(dir.path("other"));
+    openSeveral(dir.writeFile("scan.tif"));
+}
