@@ -1,0 +1,231 @@
+#include "FileSystem.h"
+
+#include <ruqlib2core/CException.h>
+
+#include <cstdlib>
+#include <system_error>
+#include <windows.h>
+
+namespace TEVU {
+namespace FileSystem {
+
+namespace {
+
+[[noreturn]] void fail(const char* place, const std::string& path, DWORD error) {
+    throw CException(place, path + ": " + std::system_category().message(static_cast<int>(error)));
+}
+
+/// Closes its handle, which may be INVALID_HANDLE_VALUE for none.
+class Handle {
+public:
+    explicit Handle(HANDLE handle) : m_pHandle(handle) {}
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+    ~Handle() { Close(); }
+    operator HANDLE() const { return m_pHandle; }
+    bool IsOpen() const { return m_pHandle != INVALID_HANDLE_VALUE; }
+    void Close() {
+        if (IsOpen())
+            ::CloseHandle(m_pHandle);
+        m_pHandle = INVALID_HANDLE_VALUE;
+    }
+
+private:
+    HANDLE m_pHandle;
+};
+
+const DWORD c_nShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+HANDLE open(const std::string& path, DWORD access, DWORD share, DWORD creation) {
+    return ::CreateFileA(path.c_str(), access, share, nullptr, creation, FILE_ATTRIBUTE_NORMAL,
+                         nullptr);
+}
+
+std::string versionOf(HANDLE handle) {
+    BY_HANDLE_FILE_INFORMATION status = {};
+    if (!::GetFileInformationByHandle(handle, &status))
+        return std::string();
+    std::string version;
+    for (const DWORD part :
+         {status.dwVolumeSerialNumber, status.nFileIndexHigh, status.nFileIndexLow,
+          status.nFileSizeHigh, status.nFileSizeLow, status.ftLastWriteTime.dwHighDateTime,
+          status.ftLastWriteTime.dwLowDateTime})
+        version += std::to_string(part) + ":";
+    return version;
+}
+
+bool isFolder(const std::string& path) {
+    const DWORD attributes = ::GetFileAttributesA(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+/// Errors that say nothing about the content: out of resources, or another program has it open.
+bool isAboutTheProcess(DWORD error) {
+    return error == ERROR_TOO_MANY_OPEN_FILES || error == ERROR_NOT_ENOUGH_MEMORY ||
+           error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
+}
+
+StReading failedReading(DWORD error) {
+    StReading reading;
+    if (error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND)
+        reading.state = isAboutTheProcess(error) ? StReading::eUnavailable : StReading::eUnreadable;
+    reading.reason = std::system_category().message(static_cast<int>(error));
+    return reading;
+}
+
+/// The bytes up to the end of the file; 0, or the error number.
+DWORD readAll(HANDLE handle, std::size_t largest, std::string& bytes) {
+    char buffer[64 * 1024];
+    DWORD count = 0;
+    do {
+        if (!::ReadFile(handle, buffer, sizeof buffer, &count, nullptr))
+            return ::GetLastError();
+        bytes.append(buffer, count);
+        if (bytes.size() > largest)
+            return ERROR_FILE_TOO_LARGE;
+    } while (count > 0);
+    return 0;
+}
+
+void flush(const std::string& path) {
+    const Handle handle(open(path, GENERIC_WRITE, c_nShareAll, OPEN_EXISTING));
+    if (!handle.IsOpen() || !::FlushFileBuffers(handle))
+        fail("NewFile", path, ::GetLastError());
+}
+
+/// Another program, a virus scanner say, may have the target open for a moment.
+void renameOver(const std::string& from, const std::string& to) {
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        if (::MoveFileExA(from.c_str(), to.c_str(),
+                          MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return;
+        ::Sleep(10);
+    }
+    fail("NewFile", to, ::GetLastError());
+}
+
+} // namespace
+
+StReading readFile(const std::string& path, std::size_t largest) {
+    StReading reading;
+    reading.state = StReading::eUnavailable;
+    reading.reason = "is no ordinary file";
+    if (isFolder(path))
+        return reading;
+    const auto handle =
+        std::make_shared<const Handle>(open(path, GENERIC_READ, c_nShareAll, OPEN_EXISTING));
+    if (!handle->IsOpen())
+        return failedReading(::GetLastError());
+    if (::GetFileType(*handle) != FILE_TYPE_DISK)
+        return reading;
+    const DWORD error = readAll(*handle, largest, reading.bytes);
+    if (error != 0)
+        return failedReading(error);
+    reading.state = StReading::eWhole;
+    reading.version = versionOf(*handle);
+    // Nothing is held: file numbers are not used again here, and an open file would be in the way.
+    return reading;
+}
+
+std::string versionOf(const std::string& path) {
+    const Handle handle(open(path, 0, c_nShareAll, OPEN_EXISTING));
+    return handle.IsOpen() ? versionOf(static_cast<HANDLE>(handle)) : std::string();
+}
+
+bool exists(const std::string& path) {
+    return ::GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+void renameFile(const std::string& from, const std::string& to) {
+    if (!::MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH))
+        fail("renameFile", from, ::GetLastError());
+}
+
+void createFolders(const std::string& folder) {
+    if (isFolder(folder) || ::CreateDirectoryA(folder.c_str(), nullptr))
+        return;
+    if (::GetLastError() != ERROR_PATH_NOT_FOUND || folderOf(folder) == ".")
+        fail("createFolders", folder, ::GetLastError());
+    createFolders(folderOf(folder));
+    if (!::CreateDirectoryA(folder.c_str(), nullptr) && !isFolder(folder))
+        fail("createFolders", folder, ::GetLastError());
+}
+
+std::string resolveLinks(const std::string& path) {
+    return path;
+}
+
+std::string absolutePath(const std::string& path) {
+    char absolute[MAX_PATH];
+    const DWORD length = ::GetFullPathNameA(path.c_str(), MAX_PATH, absolute, nullptr);
+    return length > 0 && length < MAX_PATH ? std::string(absolute, length) : path;
+}
+
+std::string configurationFolder() {
+    const char* configured = std::getenv("APPDATA");
+    return configured ? configured : "";
+}
+
+struct Lock::StHandle {
+    explicit StHandle(HANDLE opened) : handle(opened) {}
+    Handle handle;
+};
+
+Lock::Lock(const std::string& path)
+    : m_pHandle(std::make_unique<StHandle>(
+          open(path, GENERIC_READ | GENERIC_WRITE, c_nShareAll, OPEN_ALWAYS))) {
+    OVERLAPPED whole = {};
+    if (!m_pHandle->handle.IsOpen() ||
+        !::LockFileEx(m_pHandle->handle, LOCKFILE_EXCLUSIVE_LOCK, 0, MAXDWORD, MAXDWORD, &whole))
+        fail("Lock", path, ::GetLastError());
+}
+
+Lock::~Lock() = default;
+
+struct NewFile::StHandle {
+    explicit StHandle(HANDLE opened) : handle(opened) {}
+    Handle handle;
+};
+
+NewFile::NewFile(const std::string& target) : m_sTarget(target) {
+    if (isFolder(target))
+        throw CException("NewFile", target + ": is no ordinary file");
+    m_sPath = newFileName(target);
+    // Open without FILE_SHARE_DELETE: nobody takes it for left behind while this process lives.
+    m_pHandle = std::make_unique<StHandle>(
+        open(m_sPath, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, CREATE_NEW));
+    if (!m_pHandle->handle.IsOpen()) {
+        m_sPath.clear();
+        fail("NewFile", target, ::GetLastError());
+    }
+}
+
+NewFile::~NewFile() {
+    m_pHandle->handle.Close();
+    if (!m_sPath.empty())
+        ::DeleteFileA(m_sPath.c_str());
+}
+
+void NewFile::MoveToTarget() {
+    flush(m_sPath);
+    m_pHandle->handle.Close();
+    renameOver(m_sPath, m_sTarget);
+    m_sPath.clear();
+}
+
+void removeLeftBehind(const std::string& target) {
+    WIN32_FIND_DATAA found = {};
+    const std::string folder = folderOf(target);
+    const HANDLE search = ::FindFirstFileA((folder + "/*.new").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return;
+    do {
+        // Fails for those that a living process holds.
+        if (isNewFileName(found.cFileName, target))
+            ::DeleteFileA((folder + "/" + found.cFileName).c_str());
+    } while (::FindNextFileA(search, &found));
+    ::FindClose(search);
+}
+
+} // namespace FileSystem
+} // namespace TEVU

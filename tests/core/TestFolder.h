@@ -1,0 +1,65 @@
+#ifndef RUQLIB2CORE_TESTFOLDER_H
+#define RUQLIB2CORE_TESTFOLDER_H
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+/// A folder of a test's own, gone with it. It belongs to the ordinary user of asOrdinaryUser().
+class TestFolder {
+public:
+    TestFolder() {
+        std::string pattern = testing::TempDir() + "/core-XXXXXX";
+        m_sPath = ::mkdtemp(pattern.data());
+        GiveAway("");
+    }
+    TestFolder(const TestFolder&) = delete;
+    TestFolder& operator=(const TestFolder&) = delete;
+    ~TestFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_sPath, ignored);
+    }
+
+    std::string Path(const std::string& name) const { return m_sPath + "/" + name; }
+
+    void Write(const std::string& name, const std::string& bytes) const {
+        std::ofstream(Path(name), std::ios::binary) << bytes;
+    }
+
+    std::string Read(const std::string& name) const {
+        std::ifstream file(Path(name), std::ios::binary);
+        EXPECT_TRUE(file) << Path(name);
+        std::ostringstream bytes;
+        bytes << file.rdbuf();
+        return bytes.str();
+    }
+
+    /// In order.
+    std::vector<std::string> Names() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(m_sPath))
+            names.push_back(entry.path().filename().string());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    void GiveAway(const std::string& name) const {
+        if (::geteuid() != 0)
+            return;
+        EXPECT_EQ(::chown(Path(name).c_str(), c_nOrdinaryUser, c_nOrdinaryUser), 0);
+    }
+
+    static constexpr unsigned c_nOrdinaryUser = 65534; ///< nobody
+
+private:
+    std::string m_sPath;
+};
+
+#endif

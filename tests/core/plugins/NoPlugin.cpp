@@ -1,0 +1,4 @@
+/// A shared object that knows nothing of plug-ins.
+extern "C" int answer() {
+    return 42;
+}
