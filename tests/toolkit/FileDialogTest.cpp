@@ -6,7 +6,13 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <qapplication.h>
+#include <qfiledialog.h>
 #include <qwidget.h>
+
+#if QT_VERSION < 0x060000
+extern bool qt_use_native_dialogs;
+#endif
 
 using qt3::FileDialog;
 using support::ModalDriver;
@@ -68,6 +74,16 @@ const Way c_ways[] = {
 
 void PrintTo(const Way& way, std::ostream* stream) {
     *stream << way.name;
+}
+
+// What the toolkit itself has been told.
+bool mayBeNative() {
+#if QT_VERSION >= 0x060000
+    const auto* dialog = dynamic_cast<QFileDialog*>(QApplication::activeModalWidget());
+    return !dialog->testOption(QFileDialog::DontUseNativeDialog);
+#else
+    return qt_use_native_dialogs;
+#endif
 }
 
 support::FileRequest shows(const std::string& folder, const std::string& fileName) {
@@ -324,4 +340,16 @@ TEST(FileDialog, SeveralDoNotFillInAStartFile) {
 
     openSeveral(dir.path("other"));
     openSeveral(dir.writeFile("scan.tif"));
+}
+
+TEST(FileDialog, PlatformsOwnDialogIsSwitchedOff) {
+    const support::TempDir dir;
+    bool allowed = true;
+    ModalDriver driver;
+    driver.expectFileDialog({}).before([&] { allowed = mayBeNative(); }).cancel();
+    qt3::useNativeDialogs(false);
+
+    openOne(dir.path());
+
+    EXPECT_FALSE(allowed);
 }
