@@ -49,7 +49,7 @@ std::string className(const QObject* object) {
 
 std::string superClassName(const QObject* object) {
     const char* const name = object->metaObject()->superClassName();
-    return name ? name : "";
+    return name && std::string(name) != "Qt" ? name : ""; // Qt is a class here, with no meta-object
 }
 
 } // namespace qt3

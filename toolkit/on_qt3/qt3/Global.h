@@ -9,6 +9,7 @@ namespace qt3 {
 
 /// The flags of a widget.
 typedef Qt::WFlags WFlags;
+constexpr WFlags WType_Dialog = Qt::WType_Dialog;
 
 /// One policy of a QSizePolicy, such as QSizePolicy::Fixed.
 typedef QSizePolicy::SizeType SizeType;

@@ -43,6 +43,8 @@ public:
             this->setFocusPolicy(proxy->focusPolicy());
     }
 
+    QWidget* topLevelWidget() const { return this->window(); }
+
     QString caption() const { return this->windowTitle(); }
     virtual void setCaption(const QString& text) { this->setWindowTitle(text); }
 

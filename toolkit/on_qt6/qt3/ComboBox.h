@@ -17,6 +17,7 @@ public:
     /// At \a index, or at the end if it is negative or too large.
     void insertItem(const QString& text, int index = -1);
 
+    bool editable() const { return isEditable(); }
     QString text(int index) const { return itemText(index); }
 
     /// 0 also when there are no items.

@@ -9,6 +9,7 @@ namespace qt3 {
 
 /// The flags of a widget.
 using WFlags = unsigned int;
+constexpr WFlags WType_Dialog = Qt::Dialog;
 
 /// One policy of a QSizePolicy, such as QSizePolicy::Fixed.
 using SizeType = QSizePolicy::Policy;
