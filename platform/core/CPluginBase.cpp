@@ -71,7 +71,7 @@ std::string findLibrary(const std::string& library) {
         const std::string path = folder + "/" + library + DynamicLibrary::c_sEnding;
         if (FileSystem::exists(path))
             return path;
-        searched += (searched.empty() ? "" : ", ") + folder;
+        searched.append(searched.empty() ? "" : ", ").append(folder);
     }
     refuse("there is no library " + library + DynamicLibrary::c_sEnding + " in " + searched);
 }

@@ -235,7 +235,10 @@ NewFile::~NewFile() {
 }
 
 void NewFile::MoveToTarget() {
-    const int descriptor = m_pHandle->descriptor;
+    // Opened anew: the writer may have put another file in the place of the empty one.
+    const Descriptor descriptor(::open(m_sPath.c_str(), O_RDONLY | O_CLOEXEC));
+    if (descriptor < 0)
+        fail("NewFile", m_sPath, errno);
     const struct stat& status = m_pHandle->status;
     // Only root may give files away; for all others the new file is theirs.
     const bool given = ::fchown(descriptor, status.st_uid, status.st_gid) == 0;

@@ -10,7 +10,7 @@ namespace TEVU {
 namespace {
 
 /// Far above what settings need, far below what a process cannot hold.
-const std::size_t c_nLargestFile = 64 * 1024 * 1024;
+const std::size_t c_nLargestFile = std::size_t(64) << 20;
 
 const char* const c_sPlace = "CRegistry";
 

@@ -66,6 +66,19 @@ TEST_F(ReplaceFileTest, ExceptionOfTheWriterPassesAndLeavesTheOldFile) {
     EXPECT_EQ(m_folder.Names(), Names{"a"});
 }
 
+TEST_F(ReplaceFileTest, WriterMayPutAnotherFileInThePlaceOfTheEmptyOne) {
+    m_folder.Write("a", "old");
+    ASSERT_EQ(::chmod(m_folder.Path("a").c_str(), 0640), 0);
+
+    ReplaceFile(m_folder.Path("a"), [this](const std::string& newFile) {
+        m_folder.Write("own", "new");
+        std::filesystem::rename(m_folder.Path("own"), newFile);
+    });
+
+    EXPECT_EQ(m_folder.Read("a"), "new");
+    EXPECT_EQ(permissionsOf(m_folder.Path("a")), 0640u);
+}
+
 TEST_F(ReplaceFileTest, PermissionsOfTheOldFileStay) {
     m_folder.Write("a", "old");
     ASSERT_EQ(::chmod(m_folder.Path("a").c_str(), 0640), 0);
@@ -169,6 +182,7 @@ TEST_F(ReplaceFileTest, FileOfALivingProcessIsLeftAlone) {
             return "done";
         });
         EXPECT_EQ(other.output, "done");
+        EXPECT_TRUE(std::filesystem::exists(newFile));
         writes("mine")(newFile);
     });
 

@@ -40,6 +40,11 @@ struct StPluginClass {
     CPluginBase* (*create)();
 };
 
+template <class Plugin>
+CPluginBase* newPlugin() {
+    return new Plugin;
+}
+
 /// What the exported function does, for the classes of one library.
 template <std::size_t count>
 CPluginBase* createPlugin(const StPluginClass (&classes)[count], const char* className,
@@ -57,9 +62,7 @@ CPluginBase* createPlugin(const StPluginClass (&classes)[count], const char* cla
 /// A class with a default constructor, derived from TEVU::CPluginBase, under the name that follows the
 /// colons.
 #define RUQ_PLUGIN_CLASS(name, className)                                                          \
-    {                                                                                              \
-        name, []() -> TEVU::CPluginBase* { return new className; }                                 \
-    }
+    { name, TEVU::newPlugin<className> }
 
 /// Exports the given classes. Once in a library.
 #define RUQ_EXPORT_PLUGINS(...)                                                                    \
