@@ -65,10 +65,14 @@ std::vector<std::string> searchedFolders() {
     return folders;
 }
 
+std::string pathOf(const std::string& library, const std::string& folder) {
+    return folder + "/" + library + DynamicLibrary::c_sEnding;
+}
+
 std::string findLibrary(const std::string& library) {
     std::string searched;
     for (const std::string& folder : searchedFolders()) {
-        const std::string path = folder + "/" + library + DynamicLibrary::c_sEnding;
+        const std::string path = pathOf(library, folder);
         if (FileSystem::exists(path))
             return path;
         searched.append(searched.empty() ? "" : ", ").append(folder);
