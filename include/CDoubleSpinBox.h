@@ -63,7 +63,8 @@ public:
     /// Range [0, 99], line step 1, value 0.
     explicit CDoubleSpinBox(QWidget* parent = 0, const char* name = 0);
 
-    /// The range as given, even when reversed; the absolute value of \a step; value \a minValue.
+    /// The range as given, even when reversed; the absolute value of \a step as both steps; the
+    /// value is \a minValue, clamped by bound().
     CDoubleSpinBox(double minValue, double maxValue, double step, QWidget* parent,
                    const char* name);
 
