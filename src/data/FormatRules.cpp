@@ -1,0 +1,50 @@
+#include "FormatRules.h"
+
+#include <algorithm>
+#include <limits>
+#include <locale>
+#include <sstream>
+
+namespace TEVU {
+
+namespace {
+
+double numberOf(const std::string& version) {
+    std::istringstream stream(version);
+    stream.imbue(std::locale::classic()); // whatever the application has made the global one
+    double number = 0.0;
+    stream >> number;
+    return number;
+}
+
+// Not a plain cast: that is undefined for what an int does not hold.
+int wholePart(double number) {
+    return static_cast<int>(std::clamp<double>(number, std::numeric_limits<int>::min(),
+                                               std::numeric_limits<int>::max()));
+}
+
+} // namespace
+
+StIdentifier splitIdentifier(const std::string& identifier) {
+    if (std::count(identifier.begin(), identifier.end(), ':') < 2)
+        return {identifier, ""};
+    const auto colon = identifier.find(':');
+    const std::string remainder = identifier.substr(colon + 1);
+    // Kept: two characters before the colon are no family, and of more the last one is dropped.
+    if (colon == 0 || colon == 2)
+        return {"", remainder};
+    return {identifier.substr(0, colon - 1), remainder};
+}
+
+bool isFutureVersion(const std::string& ofFile, const std::string& own) {
+    if (ofFile == own)
+        return false;
+    const double fileNumber = numberOf(ofFile);
+    const double ownNumber = numberOf(own);
+    const int whole = wholePart(fileNumber);
+    if (whole > wholePart(ownNumber))
+        return true;
+    return fileNumber - whole > ownNumber - whole;
+}
+
+} // namespace TEVU
