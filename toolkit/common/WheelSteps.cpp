@@ -8,7 +8,8 @@ int WheelSteps::take(const void* owner, int delta) {
         m_pOwner = owner;
         m_fNotches = 0.0f;
     }
-    m_fNotches += static_cast<float>(delta / notch); // a whole division: 60 twice is no step
+    const int wholeNotches = delta / notch; // 60 twice is no step
+    m_fNotches += static_cast<float>(wholeNotches);
     const int steps = static_cast<int>(m_fNotches);
     m_fNotches -= static_cast<float>(steps);
     return steps;
