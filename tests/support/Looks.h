@@ -1,0 +1,29 @@
+#ifndef RUQGUI_TESTS_SUPPORT_LOOKS_H
+#define RUQGUI_TESTS_SUPPORT_LOOKS_H
+
+#include <qlayout.h>
+#include <qt3/Global.h>
+#include <qwidget.h>
+#include <string>
+#include <vector>
+
+/// What tests ask of widgets and layouts, the same on both toolkits.
+namespace support {
+
+/// The names of the widgets right below \a parent, in the order in which they were made.
+std::vector<std::string> childWidgets(QObject* parent);
+
+qt3::SizeType horizontalPolicy(const QWidget* widget);
+qt3::SizeType verticalPolicy(const QWidget* widget);
+
+/// The margin of a layout, -1 if its sides differ.
+int margin(QLayout* layout);
+
+/// The widget flag of a dialog.
+unsigned int dialogFlag();
+/// Whether the widget is a window made with dialogFlag().
+bool isDialog(const QWidget* widget);
+
+} // namespace support
+
+#endif

@@ -1,0 +1,39 @@
+#include "Looks.h"
+
+#include <gtest/gtest.h>
+#include <qlineedit.h>
+#include <qt3/Layout.h>
+#include <qt3/Widget.h>
+
+TEST(Looks, ChildrenComeInTheOrderOfTheirMakingWithoutGrandchildren) {
+    QWidget parent;
+    qt3::Widget second(&parent, "second");
+    const qt3::Widget grandchild(&second, "grandchild");
+    const qt3::Widget first(&parent, "first");
+
+    EXPECT_EQ(support::childWidgets(&parent), (std::vector<std::string>{"second", "first"}));
+}
+
+TEST(Looks, TellTheTwoSizePoliciesApart) {
+    QWidget widget;
+    widget.setSizePolicy(QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding));
+
+    EXPECT_EQ(support::horizontalPolicy(&widget), QSizePolicy::Fixed);
+    EXPECT_EQ(support::verticalPolicy(&widget), QSizePolicy::Expanding);
+}
+
+TEST(Looks, TellTheMarginOfALayout) {
+    QWidget widget;
+    qt3::VBoxLayout layout(&widget, 7, 3);
+
+    EXPECT_EQ(support::margin(&layout), 7);
+}
+
+TEST(Looks, TellADialogFromAChild) {
+    QWidget parent;
+    const qt3::Widget child(&parent);
+    const qt3::Widget dialog(&parent, "dialog", support::dialogFlag());
+
+    EXPECT_FALSE(support::isDialog(&child));
+    EXPECT_TRUE(support::isDialog(&dialog));
+}

@@ -1,0 +1,25 @@
+#include "Looks.h"
+
+namespace support {
+
+qt3::SizeType horizontalPolicy(const QWidget* widget) {
+    return widget->sizePolicy().horData();
+}
+
+qt3::SizeType verticalPolicy(const QWidget* widget) {
+    return widget->sizePolicy().verData();
+}
+
+int margin(QLayout* layout) {
+    return layout->margin();
+}
+
+unsigned int dialogFlag() {
+    return Qt::WType_Dialog;
+}
+
+bool isDialog(const QWidget* widget) {
+    return widget->isTopLevel() && widget->isDialog();
+}
+
+} // namespace support

@@ -1,0 +1,27 @@
+#include "Looks.h"
+
+namespace support {
+
+qt3::SizeType horizontalPolicy(const QWidget* widget) {
+    return widget->sizePolicy().horizontalPolicy();
+}
+
+qt3::SizeType verticalPolicy(const QWidget* widget) {
+    return widget->sizePolicy().verticalPolicy();
+}
+
+int margin(QLayout* layout) {
+    const QMargins margins = layout->contentsMargins();
+    const int left = margins.left();
+    return margins == QMargins(left, left, left, left) ? left : -1;
+}
+
+unsigned int dialogFlag() {
+    return Qt::Dialog;
+}
+
+bool isDialog(const QWidget* widget) {
+    return widget->windowType() == Qt::Dialog;
+}
+
+} // namespace support
