@@ -293,6 +293,23 @@ TEST(WriteAttributes, OfAFreshFormWriteOneOfItsUnit) {
     EXPECT_EQ(historyOf(image), "ChangeSpacing((1,1,1)->(1e-06,1e-06,1e-06))");
 }
 
+TEST(WriteAttributes, CompareWithMinusOneMetreWhenNoSpacingIsKnown) {
+    Form fresh;
+    Form forgetful;
+    forgetful.ReadAttributesFromImage(makeImage(3, {5, 6, 7}));
+    forgetful.ReadAttributesFromImage(makeImage(3));
+
+    for (Form* form : {&fresh, &forgetful}) {
+        CImage image = makeImage(3);
+        form->SetUnit("m");
+        setSpacingFields(*form, {"-1", "-1", "-1"});
+
+        form->WriteAttributesToImage(image);
+
+        EXPECT_FALSE(hasSpacing(image));
+    }
+}
+
 TEST(WriteAttributes, FallBackOnSpacingsThatWereSet) {
     Form form;
     form.SetSpacings(2.0, 3.0, 4.0);
