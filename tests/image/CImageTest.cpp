@@ -13,7 +13,7 @@ using namespace TEVU;
 using testing::HasSubstr;
 
 /// Read by the address sanitizer, which otherwise ends the process when an allocation fails.
-extern "C" const char* __asan_default_options();
+extern "C" __attribute__((visibility("default"))) const char* __asan_default_options();
 extern "C" const char* __asan_default_options() {
     return "allocator_may_return_null=1";
 }
