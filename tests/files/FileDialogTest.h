@@ -1,0 +1,65 @@
+#ifndef RUQGUI_TESTS_FILES_FILEDIALOGTEST_H
+#define RUQGUI_TESTS_FILES_FILEDIALOGTEST_H
+
+#include <ModalDriver.h>
+#include <TempDir.h>
+#include <functional>
+#include <gtest/gtest.h>
+#include <qstring.h>
+#include <string>
+#include <vector>
+
+/// A folder for this test alone: home, working folder and settings registry are in it, so that
+/// nothing is remembered at first. Boxes and dialogs are answered by \c user.
+class FileDialogTest : public testing::Test {
+protected:
+    using Lines = std::vector<std::string>;
+
+    FileDialogTest();
+    ~FileDialogTest() override;
+
+    std::string home() const { return dir.path("home"); }
+    std::string workingFolder() const { return dir.path("working folder"); }
+
+    /// Made with the folders above it; gives the path.
+    std::string makeFile(const std::string& name) const;
+
+    /// Made as the toolkit spells a name that is no ASCII; gives the path.
+    QString makeFileNamed(const QString& name) const;
+
+    /// The names in a folder, sorted.
+    static Lines listOf(const std::string& folder);
+
+    /// \a key is the last part, such as "loadingdir".
+    static void remember(const std::string& key, const std::string& text);
+
+    /// All entries as "loadingdir=/data", sorted; the common part of the keys is left out.
+    static Lines remembered();
+
+    static support::Message unreadable(const std::string& path);
+    static support::Message unwritable(const std::string& path);
+    static support::Message notAscii(const std::string& path);
+
+    const support::TempDir dir;
+    support::ModalDriver user;
+};
+
+/// A second process with a registry object of its own. Make it before this process looks into its
+/// registry for the first time.
+class SecondProcess {
+public:
+    explicit SecondProcess(const std::function<std::vector<std::string>()>& task);
+    SecondProcess(const SecondProcess&) = delete;
+    SecondProcess& operator=(const SecondProcess&) = delete;
+    ~SecondProcess();
+
+    /// Lets the task run, and gives its lines.
+    std::vector<std::string> result();
+
+private:
+    int m_nGo = -1;
+    int m_nAnswer = -1;
+    int m_nProcess = -1;
+};
+
+#endif
