@@ -1,5 +1,6 @@
 #include "FileDialogTest.h"
 
+#include <CFileDialog.h>
 #include <Events.h>
 #include <algorithm>
 #include <cstdlib>
@@ -8,6 +9,7 @@
 #include <qfile.h>
 #include <qt3/Text.h>
 #include <ruqlib2core/CRegistry.h>
+#include <ruqlib2core/CValueLong.h>
 #include <ruqlib2core/CValueString.h>
 #include <sstream>
 #include <sys/wait.h>
@@ -61,12 +63,35 @@ void FileDialogTest::remember(const std::string& key, const std::string& text) {
     CRegistry::Obj().SetEntry(c_keys + key, new TEVU::CValueString(text));
 }
 
+void FileDialogTest::rememberNumber(const std::string& key) {
+    CRegistry::Obj().SetEntry(c_keys + key, new TEVU::CValueLong(7));
+}
+
 FileDialogTest::Lines FileDialogTest::remembered() {
     Lines lines;
     for (const TEVU::CValue_Key& key : CRegistry::Obj().Keys())
         lines.push_back(shortKey(key) + '=' + CRegistry::Obj().GetString(key, "(no string)"));
     std::sort(lines.begin(), lines.end());
     return lines;
+}
+
+QString FileDialogTest::toText(const std::string& utf8) {
+    return QString::fromUtf8(utf8.c_str());
+}
+
+support::FileRequest FileDialogTest::openIn(const std::string& folder) {
+    return {"opendialog", "Choose a file...", folder, "", {}, "open"};
+}
+
+support::FileRequest FileDialogTest::openSeveralIn(const std::string& folder) {
+    return {"opendialog", "Select one or more files...", folder, "", {}, "open several"};
+}
+
+void FileDialogTest::expectStartIn(const std::string& folder) {
+    TEVU::CFileDialog dialog;
+    user.expectFileDialog(openIn(folder)).cancel();
+    EXPECT_FALSE(dialog.GetOpenFileName(allFiles, TEVU::CFileDialog::UseWorkingDir));
+    user.finish();
 }
 
 support::Message FileDialogTest::unreadable(const std::string& path) {

@@ -33,13 +33,25 @@ protected:
     /// \a key is the last part, such as "loadingdir".
     static void remember(const std::string& key, const std::string& text);
 
+    /// An entry that is no text.
+    static void rememberNumber(const std::string& key);
+
     /// All entries as "loadingdir=/data", sorted; the common part of the keys is left out.
     static Lines remembered();
+
+    static QString toText(const std::string& utf8);
+
+    static support::FileRequest openIn(const std::string& folder);
+    static support::FileRequest openSeveralIn(const std::string& folder);
+
+    /// Asks for one file in the remembered directory: it must be that folder.
+    void expectStartIn(const std::string& folder);
 
     static support::Message unreadable(const std::string& path);
     static support::Message unwritable(const std::string& path);
     static support::Message notAscii(const std::string& path);
 
+    const std::string allFiles = "All files (*)";
     const support::TempDir dir;
     support::ModalDriver user;
 };
