@@ -49,7 +49,11 @@ Gallery::Gallery(const Options& options) : qt3::Widget(0, "gallery") {
         m_pages.push_back(page.m_fnCreate(m_pTabs, *log, options));
         m_pTabs->addTab(m_pages.back(), page.m_sTitle);
     }
-    splitter->setSizes({620, 160});
+    auto heights = splitter->sizes();
+    heights.clear();
+    heights.append(620);
+    heights.append(160);
+    splitter->setSizes(heights);
     resize(980, 820);
 }
 
