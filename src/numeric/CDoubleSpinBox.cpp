@@ -381,8 +381,9 @@ void CDoubleSpinBox::rangeChange() {
 }
 
 bool CDoubleSpinBox::eventFilter(QObject* watched, QEvent* event) {
-    const QObject* editor = static_cast<qt3::LineEdit*>(m_pEditor);
-    if (!event || !editor || watched != editor)
+    // An editor that is being destroyed is no line edit any more, but still sends events.
+    const qt3::LineEdit* editor = dynamic_cast<qt3::LineEdit*>(watched);
+    if (!event || !editor || editor != m_pEditor)
         return qt3::Widget::eventFilter(watched, event);
     if (event->type() == QEvent::KeyPress)
         return filterKey(static_cast<QKeyEvent*>(event));

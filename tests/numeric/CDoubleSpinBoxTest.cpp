@@ -8,8 +8,9 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <memory>
-#include <qapplication.h>
 #include <qlineedit.h>
+#include <qstyle.h>
+#include <qstylefactory.h>
 #include <qt3/MetaObject.h>
 #include <qt3/SpinWidget.h>
 #include <qwidget.h>
@@ -967,9 +968,11 @@ TEST_F(CDoubleSpinBox, NewStyleArrangesButtonsAndEditor) {
     const QRect place = m_box.editor()->geometry();
     m_box.editor()->setGeometry(0, 0, 5, 5);
 
-    QApplication::setStyle("windows");
+    const std::unique_ptr<QStyle> style(QStyleFactory::create("windows"));
+    m_box.setStyle(style.get());
 
     EXPECT_TRUE(m_box.editor()->geometry() == place);
+    m_box.setStyle(nullptr);
 }
 
 // Copies, and the end
@@ -1081,6 +1084,8 @@ TEST_F(CDoubleSpinBox, EndingWithPendingTextInTheFocusSaysNothing) {
 }
 
 TEST_F(CDoubleSpinBox, EditorMayEndFirst) {
+    support::giveFocus(&m_box);
+    m_box.editor()->setText("7"); // pending, and the dying editor loses the focus
     delete m_box.editor();
 
     m_box.setValue(3.0);

@@ -30,6 +30,7 @@ void SpinWidget::setEditWidget(QWidget* widget) {
         if (widget->parentWidget() != this)
             widget->setParent(this);
         setFocusProxy(widget);
+        widget->installEventFilter(this);
     }
     arrange();
     update();
@@ -109,6 +110,13 @@ bool SpinWidget::event(QEvent* event) {
     else if (event->type() == QEvent::WindowDeactivate)
         letGo();
     return Widget::event(event);
+}
+
+// Some styles show in the frame that the editor has the focus.
+bool SpinWidget::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        update();
+    return Widget::eventFilter(watched, event);
 }
 
 void SpinWidget::mousePressEvent(QMouseEvent* event) {
