@@ -664,9 +664,10 @@ TEST(CRangeControlTest, CopyAndOriginalGoTheirOwnWays) {
 
 TEST(CRangeControlTest, ReversedRangeIsCopiedAsItIs) {
     const Control original(10.0, 0.0, 1.0, 1.0, 5.0);
+    Control copy;
     const support::Warnings warnings;
 
-    const Control copy(original);
+    copy.CRangeControl::operator=(original);
 
     expectSameMembers(copy, original);
     EXPECT_EQ(warnings.lines(), Lines());
