@@ -1,5 +1,6 @@
 #include <ruqlib2image/CImageFile.h>
 
+#include "DescriptionLines.h"
 #include "TiffFile.h"
 #include "TiffHeader.h"
 #include "TiffPage.h"
@@ -99,17 +100,25 @@ std::vector<CTiffPage> pagesOf(CTiffFile& file) {
     return pages;
 }
 
-CImage emptyImage(const std::vector<CTiffPage>& pages) {
-    const CTiffPage& page = pages.front();
-    const double bytes = double(page.Width()) * page.Height() *
-                         double(page.Type().BytesPerPixel()) * double(pages.size());
-    if (bytes > physicalMemory() || pages.size() > INT_MAX)
+/// The slices of the image. A single page may have more of them behind its own pixels.
+std::size_t countSlices(const CTiffFile& file, const std::vector<CTiffPage>& pages,
+                        const StTiffHeader& header) {
+    if (pages.size() > 1)
+        return pages.size();
+    const StDescription description = parseDescription(header.m_sImageDescription);
+    return pages.front().CountSlices(file, description.m_nImages);
+}
+
+CImage emptyImage(const CTiffPage& page, std::size_t slices) {
+    const double bytes =
+        double(page.Width()) * page.Height() * double(page.Type().BytesPerPixel()) * double(slices);
+    if (bytes > physicalMemory() || slices > INT_MAX)
         fail("it is too large for the memory");
     const int width = static_cast<int>(page.Width());
     const int height = static_cast<int>(page.Height());
-    if (pages.size() == 1)
+    if (slices == 1)
         return CImage(page.Type(), CSize(width, height));
-    return CImage(page.Type(), CSize(width, height, static_cast<int>(pages.size())));
+    return CImage(page.Type(), CSize(width, height, static_cast<int>(slices)));
 }
 
 std::optional<float> resolution(const CTiffFile& file, std::uint32_t tag) {
@@ -124,9 +133,9 @@ std::string packet(const CTiffFile& file) {
                                                                          : std::string();
 }
 
-StTiffHeader readHeader(const CTiffFile& file, std::size_t pages) {
+/// Of the current page, but for the number of pages.
+StTiffHeader readHeader(const CTiffFile& file) {
     StTiffHeader header;
-    header.m_nPages = static_cast<unsigned>(pages);
     header.m_fXResolution = resolution(file, TIFFTAG_XRESOLUTION);
     header.m_fYResolution = resolution(file, TIFFTAG_YRESOLUTION);
     header.m_nResolutionUnit = file.Number(TIFFTAG_RESOLUTIONUNIT);
@@ -140,14 +149,21 @@ CImage readTiff(const std::string& path) {
     // m: not mapped into memory, where a file that shrinks meanwhile would end the process.
     CTiffFile file(path, "rm");
     const std::vector<CTiffPage> pages = pagesOf(file);
-    CImage image = emptyImage(pages);
-    unsigned char* pixels = image.Data();
-    for (const CTiffPage& page : pages) {
-        file.GoToDirectory(page.Offset());
-        if (pixels == image.Data())
-            applyTiffHeader(readHeader(file, pages.size()), image);
-        page.Decode(file, pixels);
-        pixels += image.ByteCount() / pages.size();
+    file.GoToDirectory(pages.front().Offset());
+    StTiffHeader header = readHeader(file);
+    const std::size_t slices = countSlices(file, pages, header);
+    CImage image = emptyImage(pages.front(), slices);
+    header.m_nPages = static_cast<unsigned>(slices);
+    applyTiffHeader(header, image);
+    const std::size_t sliceBytes = image.ByteCount() / slices;
+    for (std::size_t slice = 0; slice < slices; ++slice) {
+        unsigned char* pixels = image.Data() + slice * sliceBytes;
+        if (slice >= pages.size()) {
+            pages.front().ReadSliceBehind(file, slice, pixels);
+            continue;
+        }
+        file.GoToDirectory(pages[slice].Offset());
+        pages[slice].Decode(file, pixels);
     }
     return image;
 }
@@ -235,16 +251,31 @@ void setHeaderTags(const CTiffFile& file, const StTiffHeader& header) {
         setPacket(file, header.m_sXmp);
 }
 
-void writeStrips(const CTiffFile& file, const StLayout& layout, const unsigned char* pixels) {
+/// Appends all pixels, and tells where they begin.
+///
+/// The pages lie one behind the other, without directories between them: ImageJ takes the first page
+/// and expects the others right behind it, as soon as the description has its lines.
+std::uint64_t writePixels(const CTiffFile& file, const CImage& image) {
+    const std::uint64_t begin = file.ByteCount();
+    TIFFGetSeekProc(file)(TIFFClientdata(file), static_cast<toff_t>(begin), SEEK_SET);
+    // The argument is not const, because reading has the same type of function.
+    auto* pixels = const_cast<unsigned char*>(image.Data());
+    const auto bytes = static_cast<tmsize_t>(image.ByteCount());
+    file.Check(TIFFGetWriteProc(file)(TIFFClientdata(file), pixels, bytes) == bytes,
+               "the pixels cannot be written");
+    return begin;
+}
+
+/// Points the strips of the page that is being written to pixels that are in the file already.
+void setStrips(const CTiffFile& file, const StLayout& layout, std::uint64_t begin) {
+    std::uint64_t* offsets = nullptr;
+    std::uint64_t* counts = nullptr;
+    file.Check(TIFFSetupStrips(file) && TIFFGetField(file, TIFFTAG_STRIPOFFSETS, &offsets) &&
+                   TIFFGetField(file, TIFFTAG_STRIPBYTECOUNTS, &counts),
+               "the list of strips cannot be written");
     for (std::uint32_t row = 0; row < layout.m_nHeight; row += layout.m_nRowsPerStrip) {
-        const std::uint32_t rows = std::min(layout.m_nRowsPerStrip, layout.m_nHeight - row);
-        const auto bytes = static_cast<tmsize_t>(rows * layout.m_nRowBytes);
-        // libtiff's argument is not const, because it swaps bytes in place for the other byte
-        // order; here the file has the machine's.
-        auto* data = const_cast<unsigned char*>(pixels + row * layout.m_nRowBytes);
-        const std::uint32_t strip = row / layout.m_nRowsPerStrip;
-        file.Check(TIFFWriteEncodedStrip(file, strip, data, bytes) == bytes,
-                   "the pixels cannot be written");
+        *offsets++ = begin + row * layout.m_nRowBytes;
+        *counts++ = std::min(layout.m_nRowsPerStrip, layout.m_nHeight - row) * layout.m_nRowBytes;
     }
 }
 
@@ -252,6 +283,7 @@ void writeTiff(const CImage& image, const std::string& path) {
     const StLayout layout(image);
     const StTiffHeader header = tiffHeaderOf(image, layout.m_nPages);
     const CTiffFile file(path, needsBigTiff(image, layout, header) ? "w8" : "w");
+    const std::uint64_t begin = writePixels(file, image);
     for (std::uint32_t page = 0; page < layout.m_nPages; ++page) {
         setPixelTags(file, layout, image.Type());
         setResolutionTags(file, header);
@@ -259,7 +291,7 @@ void writeTiff(const CImage& image, const std::string& path) {
             setTag(file, TIFFTAG_SUBFILETYPE, FILETYPE_PAGE);
         if (page == 0)
             setHeaderTags(file, header);
-        writeStrips(file, layout, image.Data() + page * (image.ByteCount() / layout.m_nPages));
+        setStrips(file, layout, begin + page * (image.ByteCount() / layout.m_nPages));
         file.Check(TIFFWriteDirectory(file), "a page cannot be written");
     }
 }

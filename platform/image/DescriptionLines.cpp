@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <climits>
 #include <cmath>
 #include <locale>
 #include <sstream>
@@ -13,6 +14,7 @@ namespace {
 const std::string c_sBlockBegin = "ImageJ=";
 const std::string c_sUnit = "unit=";
 const std::string c_sSpacing = "spacing=";
+const std::string c_sImages = "images=";
 
 struct StLengthName {
     const char* m_sName;
@@ -50,6 +52,11 @@ std::optional<double> number(const std::string& text) {
     if (!(stream >> value) || !std::isfinite(value))
         return std::nullopt;
     return value;
+}
+
+unsigned count(const std::string& text) {
+    const double value = number(text).value_or(0);
+    return value >= 1 && value <= INT_MAX ? static_cast<unsigned>(value) : 0;
 }
 
 std::string decimal(double number) {
@@ -100,6 +107,8 @@ StDescription parseDescription(const std::string& imageDescription) {
             break;
         }
         heed(line, description);
+        if (hasBlock && beginsWith(line, c_sImages))
+            description.m_nImages = count(line.substr(c_sImages.size()));
     }
     description.m_sText = imageDescription.substr(textBegin);
     return description;

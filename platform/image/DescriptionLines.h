@@ -11,6 +11,7 @@ struct StDescription {
     std::string m_sText;            ///< For people: without the block of lines for programs.
     std::optional<double> m_dUnit;  ///< What unit= names, in metres. Nothing for "pixel".
     std::optional<double> m_dPages; ///< What spacing= says: the distance between pages, in units.
+    unsigned m_nImages = 0;         ///< What images= says in the block; 0 when there is none.
 };
 
 /// Takes an ImageDescription apart.

@@ -56,6 +56,13 @@ void CTiffFile::GoToDirectory(std::uint64_t offset) {
     checkDirectory();
 }
 
+void CTiffFile::ReadAt(std::uint64_t offset, unsigned char* bytes, std::uint64_t count) const {
+    const auto size = static_cast<tmsize_t>(count);
+    TIFFGetSeekProc(m_pTiff)(TIFFClientdata(m_pTiff), offset, SEEK_SET);
+    Check(TIFFGetReadProc(m_pTiff)(TIFFClientdata(m_pTiff), bytes, size) == size,
+          "it is truncated");
+}
+
 void CTiffFile::Check(bool succeeded, const char* otherwise) const {
     if (!succeeded)
         throw CException("libtiff", m_sFirstError.empty() ? otherwise : m_sFirstError);
@@ -89,8 +96,7 @@ int CTiffFile::noteWarning(TIFF*, void* self, const char*, const char* format, v
 
 std::uint64_t CTiffFile::numberAt(std::uint64_t offset, unsigned bytes) const {
     unsigned char raw[8] = {};
-    TIFFGetSeekProc(m_pTiff)(TIFFClientdata(m_pTiff), offset, SEEK_SET);
-    TIFFGetReadProc(m_pTiff)(TIFFClientdata(m_pTiff), raw, bytes);
+    ReadAt(offset, raw, bytes);
     std::uint64_t number = 0;
     for (unsigned at = 0; at < bytes; ++at)
         number = number << 8 | raw[TIFFIsBigEndian(m_pTiff) ? at : bytes - 1 - at];

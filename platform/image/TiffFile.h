@@ -28,6 +28,9 @@ public:
     bool NextDirectory();
     void GoToDirectory(std::uint64_t offset); ///< As TIFFCurrentDirOffset() gave it.
 
+    /// Reads \a count bytes of the file as they are.
+    void ReadAt(std::uint64_t offset, unsigned char* bytes, std::uint64_t count) const;
+
     /// Throws with the cause that libtiff has reported, or \a otherwise when it was silent, unless
     /// \a succeeded.
     void Check(bool succeeded, const char* otherwise) const;

@@ -309,6 +309,48 @@ void CTiffPage::Decode(const CTiffFile& file, unsigned char* pixels) const {
     }
 }
 
+std::uint64_t CTiffPage::pageBytes() const {
+    return std::uint64_t(m_nWidth) * m_nHeight * m_Type.BytesPerPixel();
+}
+
+bool CTiffPage::hasPlainPixels(const CTiffFile& file) const {
+    if (!isInPlace() || file.Number(TIFFTAG_COMPRESSION) != COMPRESSION_NONE)
+        return false;
+    std::uint64_t expected = TIFFGetStrileOffset(file, 0);
+    for (const StChunk& chunk : chunks()) {
+        if (TIFFGetStrileOffset(file, chunk.m_nIndex) != expected)
+            return false;
+        expected += chunk.m_nBytes;
+    }
+    return true;
+}
+
+std::size_t CTiffPage::CountSlices(const CTiffFile& file, std::uint64_t claimed) const {
+    const std::uint64_t begin = TIFFGetStrileOffset(file, 0);
+    // In such a file the directory comes first. Where one page was taken out of a stack, together with
+    // its description, there is nothing behind it.
+    const bool isStack = claimed > 1 && hasPlainPixels(file) && m_nOffset < begin &&
+                         file.ByteCount() - begin >= 2 * pageBytes();
+    if (!isStack)
+        return 1;
+    if ((file.ByteCount() - begin) / pageBytes() < claimed)
+        fail("it is truncated: slices are missing");
+    return static_cast<std::size_t>(claimed);
+}
+
+void CTiffPage::ReadSliceBehind(const CTiffFile& file, std::size_t slice,
+                                unsigned char* pixels) const {
+    file.ReadAt(TIFFGetStrileOffset(file, 0) + slice * pageBytes(), pixels, pageBytes());
+    if (!TIFFIsByteSwapped(file))
+        return;
+    if (m_nBits == 16)
+        TIFFSwabArrayOfShort(reinterpret_cast<std::uint16_t*>(pixels),
+                             static_cast<tmsize_t>(pageBytes() / 2));
+    if (m_nBits == 32)
+        TIFFSwabArrayOfLong(reinterpret_cast<std::uint32_t*>(pixels),
+                            static_cast<tmsize_t>(pageBytes() / 4));
+}
+
 bool CTiffPage::isInPlace() const {
     return !m_bTiles && !m_bPlanes && m_nConversion == eCopy && m_nSamples == channels() &&
            m_nPhotometric != PHOTOMETRIC_MINISWHITE;

@@ -28,6 +28,13 @@ public:
     /// pixels. A CException when the data cannot be decoded.
     void Decode(const CTiffFile& file, unsigned char* pixels) const;
 
+    /// ImageJ writes stacks that are too large for a classic TIFF as one page, whose description names
+    /// the number of images; the others lie behind the page's own pixels. How many slices there are,
+    /// given that the description says \a claimed: 1 for an ordinary page. A CException when the file
+    /// ends before them.
+    std::size_t CountSlices(const CTiffFile& file, std::uint64_t claimed) const;
+    void ReadSliceBehind(const CTiffFile& file, std::size_t slice, unsigned char* pixels) const;
+
 private:
     /// How a sample of the file becomes one of the image.
     enum EnConversion {
@@ -74,6 +81,8 @@ private:
     std::vector<StChunk> chunks() const;
     void addPlane(unsigned plane, std::vector<StChunk>& chunks) const;
     bool isInPlace() const;
+    bool hasPlainPixels(const CTiffFile& file) const;
+    std::uint64_t pageBytes() const; ///< Of the pixels.
     void decodeChunk(const CTiffFile& file, const StChunk& chunk, unsigned char* bytes) const;
     void convertChunk(const StChunk& chunk, const unsigned char* bytes,
                       unsigned char* pixels) const;

@@ -482,6 +482,66 @@ INSTANTIATE_TEST_SUITE_P(
                     StUnitName{"Nanometre", "nm", 1e-9}, StUnitName{"Inch", "inch", 0.0254}),
     [](const auto& row) { return row.param.name; });
 
+class CImageFileLargeStackTest : public CImageFiles {
+protected:
+    /// What ImageJ makes of stacks above 4 GB: one page, and the other slices behind its pixels.
+    std::string largeStack(const std::string& pixels,
+                           raw_tiff::EnByteOrder order = raw_tiff::eLittleEndian) const {
+        const std::string description = "ImageJ=1.54f\nimages=3\nunit=mm\nspacing=2\n";
+        raw_tiff::CRawTiff tiff(order);
+        const unsigned entries = 10;
+        const auto length = static_cast<unsigned>(description.size() + 1);
+        const unsigned textBegin = 8 + 2 + entries * 12 + 4;
+        tiff.add(256, raw_tiff::c_nLong, 1, 2);
+        tiff.add(257, raw_tiff::c_nLong, 1, 1);
+        tiff.add(258, raw_tiff::c_nShort, 1, 16);
+        tiff.add(259, raw_tiff::c_nShort, 1, raw_tiff::c_nPlain);
+        tiff.add(262, raw_tiff::c_nShort, 1, 1);
+        tiff.add(270, 2, length, textBegin);
+        tiff.add(273, raw_tiff::c_nLong, 1, textBegin + length);
+        tiff.add(277, raw_tiff::c_nShort, 1, 1);
+        tiff.add(278, raw_tiff::c_nLong, 1, 1);
+        tiff.add(279, raw_tiff::c_nLong, 1, 4);
+        return tiff.content(0, description + '\0' + pixels);
+    }
+};
+
+TEST_F(CImageFileLargeStackTest, SlicesBehindTheOnlyPageAreRead) {
+    dir.writeFile("a.tif", largeStack("aabbccddeeff"));
+
+    const CImage image = read("a.tif");
+
+    EXPECT_EQ(image.Size(), CSize(2, 1, 3));
+    EXPECT_EQ(pixelsOf<unsigned char>(image), bytesOf("aabbccddeeff"));
+    expectSpacing(image, {1e-3, 1e-3, 2e-3});
+}
+
+TEST_F(CImageFileLargeStackTest, SlicesInTheOtherByteOrderAreRead) {
+    dir.writeFile("a.tif", largeStack("abcdefghijkl", raw_tiff::eBigEndian));
+
+    EXPECT_EQ(pixelsOf<unsigned char>(read("a.tif")), bytesOf("badcfehgjilk"));
+}
+
+TEST_F(CImageFileLargeStackTest, MissingSlicesAreReported) {
+    dir.writeFile("a.tif", largeStack("aabbccddee"));
+
+    EXPECT_THAT(refusal(dir.path("a.tif")), HasSubstr("slices are missing"));
+}
+
+TEST_F(CImageFileLargeStackTest, PageTakenOutOfAStackIsAPage) {
+    dir.writeFile("a.tif", largeStack("aabb"));
+
+    EXPECT_EQ(read("a.tif").Size(), CSize(2, 1));
+}
+
+TEST_F(CImageFileLargeStackTest, PageThatImageMagickTookOutOfAStackIsAPage) {
+    write(patterned(Type::eUInt8, CSize(4, 3, 3)), "a.tif");
+    dir.writeFile("description", "ImageJ=1.54f\nimages=3\n");
+    run("convert 'a.tif[1]' b.tif && tiffset -sf 270 description b.tif");
+
+    EXPECT_EQ(read("b.tif").Size(), CSize(4, 3));
+}
+
 TEST_F(CImageFileForeignTest, RewrittenImageJStackKeepsItsSpacing) {
     const CImage image = stackWith("ImageJ=1.53t\nimages=3\nunit=micron\nspacing=2.0\n\nCells",
                                    "tiffset -s 282 4 s.tif && tiffset -s 283 4 s.tif && "

@@ -242,6 +242,15 @@ TEST_F(CImageFileTest, DistanceBetweenPagesIsInTheLinesThatImageJReads) {
                       HasSubstr("\nspacing=0.0002\n")));
 }
 
+TEST_F(CImageFileTest, PagesLieOneBehindTheOtherAsImageJExpects) {
+    const CImage image = stack();
+
+    write(image, "a.tif");
+
+    const std::vector<unsigned char> pixels = pixelsOf<unsigned char>(image);
+    EXPECT_THAT(dir.read("a.tif"), HasSubstr(std::string(pixels.begin(), pixels.end())));
+}
+
 TEST_F(CImageFileTest, ChangedResolutionWinsOverWhatWasWritten) {
     write(stack(), "a.tif");
 

@@ -6,20 +6,28 @@
 /// Files that no program writes.
 namespace raw_tiff {
 
-/// A little-endian TIFF of one directory, whose entries a test spells out.
+enum EnByteOrder { eLittleEndian, eBigEndian };
+
+/// A TIFF of one directory, whose entries a test spells out.
 class CRawTiff {
 public:
+    explicit CRawTiff(EnByteOrder order = eLittleEndian) : m_nOrder(order) {}
+
     void add(unsigned tag, unsigned type, unsigned count, unsigned value) {
+        const unsigned shortType = 3;
         put(m_sEntries, tag, 2);
         put(m_sEntries, type, 2);
         put(m_sEntries, count, 4);
-        put(m_sEntries, value, 4);
+        put(m_sEntries, value, type == shortType ? 2 : 4);
+        put(m_sEntries, 0, type == shortType ? 2 : 0);
         ++m_nEntries;
     }
 
     /// Eight bytes of header, the directory, and \a data behind it.
     std::string content(unsigned next = 0, const std::string& data = std::string(64, 'x')) const {
-        std::string bytes("II*\0\x08\0\0\0", 8);
+        std::string bytes = m_nOrder == eBigEndian ? "MM" : "II";
+        put(bytes, 42, 2);
+        put(bytes, 8, 4);
         put(bytes, m_nEntries, 2);
         bytes += m_sEntries;
         put(bytes, next, 4);
@@ -27,11 +35,12 @@ public:
     }
 
 private:
-    static void put(std::string& bytes, unsigned number, unsigned size) {
-        for (; size > 0; --size, number >>= 8)
-            bytes += static_cast<char>(number);
+    void put(std::string& bytes, unsigned number, unsigned size) const {
+        for (unsigned at = 0; at < size; ++at)
+            bytes += static_cast<char>(number >> 8 * (m_nOrder == eBigEndian ? size - 1 - at : at));
     }
 
+    EnByteOrder m_nOrder;
     std::string m_sEntries;
     unsigned m_nEntries = 0;
 };
