@@ -1,11 +1,10 @@
 #include "FilesPage.h"
 
+#include "Form.h"
 #include "SignalLog.h"
 
 #include <CFileLineWidget.h>
 #include <qt3/Descendants.h>
-#include <qt3/GroupBox.h>
-#include <qt3/Layout.h>
 #include <qt3/MessageBox.h>
 #include <qt3/PushButton.h>
 #include <qt3/Text.h>
@@ -19,30 +18,6 @@ namespace {
 
 const char* const c_sFirstFilter =
     "Images (*.tif *.tiff *.png);;Reconstructions (*.rek.gz);;Surfaces (*.stl.gz)";
-
-qt3::VBoxLayout* columnIn(qt3::GroupBox* box) {
-    box->setColumnLayout(0, Qt::Vertical);
-    box->layout()->setSpacing(6);
-    auto* column = new qt3::VBoxLayout(box->layout());
-    column->setAlignment(Qt::AlignTop);
-    return column;
-}
-
-qt3::Label* addText(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text) {
-    auto* label = new qt3::Label(box);
-    label->setText(text);
-    column->addWidget(label);
-    return label;
-}
-
-qt3::LineEdit* addField(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label,
-                        const char* text) {
-    addText(box, column, label);
-    auto* field = new qt3::LineEdit(box);
-    field->setText(text);
-    column->addWidget(field);
-    return field;
-}
 
 } // namespace
 

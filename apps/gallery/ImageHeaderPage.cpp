@@ -1,5 +1,6 @@
 #include "ImageHeaderPage.h"
 
+#include "Form.h"
 #include "Options.h"
 #include "Preview.h"
 #include "SignalLog.h"
@@ -7,7 +8,6 @@
 #include <CFileDialog.h>
 #include <qpixmap.h>
 #include <qt3/Descendants.h>
-#include <qt3/GroupBox.h>
 #include <qt3/MessageBox.h>
 #include <qt3/PushButton.h>
 #include <qt3/Text.h>
@@ -80,10 +80,7 @@ QWidget* ImageHeaderPage::createImageRow() {
 
 QWidget* ImageHeaderPage::createPreview(QWidget* parent) {
     auto* box = new qt3::GroupBox("Preview", parent, "preview");
-    box->setColumnLayout(0, Qt::Vertical);
-    box->layout()->setSpacing(6);
-    auto* column = new qt3::VBoxLayout(box->layout());
-    column->setAlignment(Qt::AlignTop);
+    auto* column = columnIn(box);
     m_pPicture = new qt3::Label(box, "picture");
     m_pPicture->setFixedSize(c_nPreviewPixels, c_nPreviewPixels);
     m_pPicture->setAlignment(Qt::AlignCenter);

@@ -2,11 +2,17 @@
 
 #include "FilesPage.h"
 #include "ImageHeaderPage.h"
+#include "NumbersPage.h"
+#include "SlidersPage.h"
+#include "SmallWidgetsPage.h"
 
 const std::vector<StPage>& pages() {
     static const std::vector<StPage> all = {
         {"Image header", createImageHeaderPage},
         {"Files", createFilesPage},
+        {"Numbers", createNumbersPage},
+        {"Sliders", createSlidersPage},
+        {"Small widgets", createSmallWidgetsPage},
     };
     return all;
 }

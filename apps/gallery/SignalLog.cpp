@@ -19,6 +19,12 @@ void SignalLog::watch(QObject* object, const std::string& name) {
                       });
 }
 
+void SignalLog::watch(QObject* object, const std::string& name, const std::string& signal) {
+    const std::string line = name + "  " + signal.substr(0, signal.find('('));
+    m_tap.listen(object, signal.c_str(),
+                 [this, line](const std::string& arguments) { add(line + "(" + arguments + ")"); });
+}
+
 void SignalLog::add(const std::string& line) {
     m_lines.push_front(std::to_string(++m_nCount) + "  " + line);
     if (m_lines.size() > c_nShownLines)

@@ -14,6 +14,9 @@ public:
     /// Logs every signal that the object's class declares, under this name. Ends with the object.
     void watch(QObject* object, const std::string& name);
 
+    /// Logs one signal, also one that a base class declares, by its signature.
+    void watch(QObject* object, const std::string& name, const std::string& signal);
+
     void add(const std::string& line);
 
 private:

@@ -1,0 +1,49 @@
+#include "Form.h"
+
+namespace {
+
+const int c_nLabelWidth = 130;
+
+} // namespace
+
+qt3::VBoxLayout* columnIn(qt3::GroupBox* box) {
+    box->setColumnLayout(0, Qt::Vertical);
+    box->layout()->setSpacing(6);
+    auto* column = new qt3::VBoxLayout(box->layout());
+    column->setAlignment(Qt::AlignTop);
+    return column;
+}
+
+qt3::Label* addText(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text) {
+    auto* label = new qt3::Label(box);
+    label->setText(text);
+    column->addWidget(label);
+    return label;
+}
+
+qt3::LineEdit* addField(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label,
+                        const char* text) {
+    addText(box, column, label);
+    auto* field = new qt3::LineEdit(box);
+    field->setText(text);
+    column->addWidget(field);
+    return field;
+}
+
+void addLabelled(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label, QWidget* widget) {
+    auto* row = new qt3::HBoxLayout(column, 6);
+    auto* text = new qt3::Label(box);
+    text->setText(label);
+    text->setFixedWidth(c_nLabelWidth);
+    row->addWidget(text);
+    row->addWidget(widget, 1);
+}
+
+qt3::CheckBox* addSwitch(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text, bool on,
+                         QObject* receiver, const char* slot) {
+    auto* checkBox = new qt3::CheckBox(text, box);
+    checkBox->setChecked(on);
+    QObject::connect(checkBox, SIGNAL(toggled(bool)), receiver, slot);
+    column->addWidget(checkBox);
+    return checkBox;
+}

@@ -1,0 +1,28 @@
+#ifndef RUQGUI_GALLERY_FORM_H
+#define RUQGUI_GALLERY_FORM_H
+
+#include <qt3/CheckBox.h>
+#include <qt3/GroupBox.h>
+#include <qt3/Label.h>
+#include <qt3/Layout.h>
+#include <qt3/LineEdit.h>
+
+// What the pages build their boxes from. All widgets belong to the box.
+
+/// The column inside a box: its parts from top to bottom.
+qt3::VBoxLayout* columnIn(qt3::GroupBox* box);
+
+qt3::Label* addText(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text);
+
+/// A field below its label.
+qt3::LineEdit* addField(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label,
+                        const char* text);
+
+/// A widget right of its label.
+void addLabelled(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label, QWidget* widget);
+
+/// A box to tick whose change runs \a slot of \a receiver, written with SLOT() and taking a bool.
+qt3::CheckBox* addSwitch(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text, bool on,
+                         QObject* receiver, const char* slot);
+
+#endif
