@@ -33,7 +33,7 @@ int main(int argc, char** argv) {
     alarm(c_patience);
     support::prepareDisplay();
     QApplication::setDesktopSettingsAware(false);
-    QApplication::setStyle("windows");
     const QApplication application(argc, argv);
+    QApplication::setStyle("windows"); // set earlier, nobody would delete it
     return RUN_ALL_TESTS();
 }
