@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
+#include <filesystem>
 #include <pwd.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -160,13 +161,18 @@ void createFolders(const std::string& folder) {
         fail("createFolders", folder, errno);
 }
 
+// Not realpath(): that gives up on a link whose target is still to be made.
 std::string resolveLinks(const std::string& path) {
-    struct stat status = {};
-    if (::lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode))
-        return path;
-    const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr),
-                                                               &std::free);
-    return resolved ? resolved.get() : path;
+    const int mostLinks = 40; // as many as the system follows
+    std::filesystem::path name(path);
+    std::error_code error;
+    for (int link = 0; link < mostLinks && std::filesystem::is_symlink(name, error); ++link) {
+        const std::filesystem::path target = std::filesystem::read_symlink(name, error);
+        if (error)
+            break;
+        name = name.parent_path() / target; // an absolute target replaces the folder
+    }
+    return name.string();
 }
 
 std::string absolutePath(const std::string& path) {

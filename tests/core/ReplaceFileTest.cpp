@@ -96,6 +96,16 @@ TEST_F(ReplaceFileTest, NewFileHasThePermissionsThatTheUserGivesNewFiles) {
     EXPECT_EQ(permissionsOf(m_folder.Path("a")), 0640u);
 }
 
+TEST_F(ReplaceFileTest, DanglingLinkStaysALinkAndGetsItsTarget) {
+    std::filesystem::create_symlink("target", m_folder.Path("link"));
+
+    ReplaceFile(m_folder.Path("link"), writes("new"));
+
+    EXPECT_TRUE(std::filesystem::is_symlink(m_folder.Path("link")));
+    EXPECT_EQ(m_folder.Read("target"), "new");
+    EXPECT_EQ(m_folder.Names(), (Names{"link", "target"}));
+}
+
 TEST_F(ReplaceFileTest, LinkStaysALink) {
     m_folder.Write("a", "old");
     std::filesystem::create_symlink("a", m_folder.Path("link"));

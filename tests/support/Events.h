@@ -4,6 +4,7 @@
 #include <functional>
 #include <qimage.h>
 #include <qpoint.h>
+#include <qt3/Descendants.h>
 #include <qwidget.h>
 #include <string>
 #include <vector>
@@ -78,18 +79,8 @@ void setClipboard(const QString& text);
 /// UTF-8, never null.
 std::string text(const QString& string);
 
-/// All objects below \a parent with that name; with a null name, all.
-std::vector<QObject*> descendants(QObject* parent, const char* name = nullptr);
-
-/// The first object of that type below \a parent with that name, null if there is none.
-template <class T>
-T* child(QObject* parent, const char* name = nullptr) {
-    for (QObject* object : descendants(parent, name)) {
-        if (T* found = dynamic_cast<T*>(object))
-            return found;
-    }
-    return nullptr;
-}
+using qt3::child;
+using qt3::descendants;
 
 } // namespace support
 

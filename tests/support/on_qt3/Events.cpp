@@ -1,9 +1,7 @@
 #include "Events.h"
 
-#include <memory>
 #include <qapplication.h>
 #include <qclipboard.h>
-#include <qobjectlist.h>
 #include <qpixmap.h>
 
 namespace support {
@@ -122,14 +120,6 @@ void setClipboard(const QString& text) {
 std::string text(const QString& string) {
     const QCString utf8 = string.utf8();
     return utf8.isNull() ? std::string() : std::string(utf8.data());
-}
-
-std::vector<QObject*> descendants(QObject* parent, const char* name) {
-    const std::unique_ptr<QObjectList> list(parent->queryList(nullptr, name, false, true));
-    std::vector<QObject*> found;
-    for (QObjectListIt it(*list); it.current(); ++it)
-        found.push_back(it.current());
-    return found;
 }
 
 } // namespace support

@@ -125,11 +125,4 @@ std::string text(const QString& string) {
     return string.toStdString();
 }
 
-std::vector<QObject*> descendants(QObject* parent, const char* name) {
-    std::vector<QObject*> found;
-    for (QObject* object : parent->findChildren<QObject*>(QString::fromLatin1(name)))
-        found.push_back(object);
-    return found;
-}
-
 } // namespace support
