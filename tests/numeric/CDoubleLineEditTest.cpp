@@ -1,14 +1,13 @@
 #include "CDoubleLineEdit.h"
 
 #include "Events.h"
+#include "Output.h"
 #include "Recorder.h"
 
 #include <gtest/gtest.h>
-#include <iostream>
 #include <memory>
 #include <qt3/MetaObject.h>
 #include <qwidget.h>
-#include <sstream>
 
 using support::Lines;
 
@@ -31,21 +30,6 @@ public:
         setText(typed);
         return value;
     }
-};
-
-// Takes what is written to standard output while it lives.
-class Output {
-public:
-    Output() : m_pBefore(std::cout.rdbuf(m_stream.rdbuf())) {}
-    Output(const Output&) = delete;
-    Output& operator=(const Output&) = delete;
-    ~Output() { std::cout.rdbuf(m_pBefore); }
-
-    std::string text() const { return m_stream.str(); }
-
-private:
-    std::ostringstream m_stream;
-    std::streambuf* m_pBefore;
 };
 
 void type(Edit* edit, const char* text) {
