@@ -1,7 +1,9 @@
 #ifndef RUQGUI_TESTS_SUPPORT_LOOKS_H
 #define RUQGUI_TESTS_SUPPORT_LOOKS_H
 
+#include <qcolor.h>
 #include <qlayout.h>
+#include <qpalette.h>
 #include <qt3/Global.h>
 #include <qwidget.h>
 #include <string>
@@ -18,6 +20,9 @@ qt3::SizeType verticalPolicy(const QWidget* widget);
 
 /// The margin of a layout, -1 if its sides differ.
 int margin(QLayout* layout);
+
+/// Sets the colour of the text on buttons for one state.
+void setButtonText(QWidget* widget, QPalette::ColorGroup state, const QColor& color);
 
 /// The widget flag of a dialog.
 unsigned int dialogFlag();

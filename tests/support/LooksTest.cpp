@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 #include <qlineedit.h>
+#include <qpushbutton.h>
 #include <qt3/Layout.h>
 #include <qt3/Widget.h>
+#include <qt3/WidgetFunctions.h>
 
 TEST(Looks, ChildrenComeInTheOrderOfTheirMakingWithoutGrandchildren) {
     QWidget parent;
@@ -36,4 +38,13 @@ TEST(Looks, TellADialogFromAChild) {
 
     EXPECT_FALSE(support::isDialog(&child));
     EXPECT_TRUE(support::isDialog(&dialog));
+}
+
+TEST(Looks, ButtonTextIsSetForOneStateOnly) {
+    QPushButton button(nullptr);
+    const QColor before = qt3::colorGroup(&button, QPalette::Active).buttonText();
+    support::setButtonText(&button, QPalette::Disabled, QColor(1, 2, 3));
+    EXPECT_EQ(qt3::colorGroup(&button, QPalette::Disabled).buttonText(), QColor(1, 2, 3));
+    EXPECT_EQ(qt3::colorGroup(&button, QPalette::Active).buttonText(), before);
+    EXPECT_NE(before, QColor(1, 2, 3));
 }

@@ -141,6 +141,25 @@ TEST(TextEditPasteTest, PasteReplacesTheSelection) {
     EXPECT_EQ(ascii(pasting.edit.text()), "new\n");
 }
 
+TEST(TextEditPasteTest, EmptyClipboardReplacesTheSelectionToo) {
+    StPasting pasting("");
+    QApplication::clipboard()->clear();
+    pasting.edit.setText(fromAscii("old"));
+    support::keyClick(&pasting.edit, Qt::Key_Right, Modifier::Shift);
+    pasting.edit.paste();
+    EXPECT_EQ(ascii(pasting.edit.text()), "ld");
+}
+
+TEST(TextEditPasteTest, EmptyClipboardLeavesAReadOnlySelection) {
+    StPasting pasting("");
+    QApplication::clipboard()->clear();
+    pasting.edit.setText(fromAscii("old"));
+    pasting.edit.selectAll();
+    pasting.edit.setReadOnly(true);
+    pasting.edit.paste();
+    EXPECT_EQ(ascii(pasting.edit.text()), "old");
+}
+
 TEST(TextEditPasteTest, ReadOnlyEditKeepsItsText) {
     StPasting pasting("a\rb");
     pasting.edit.setText(fromAscii("kept"));

@@ -49,6 +49,8 @@ void TextEdit::paste() {
         QTextEdit::insertFromMimeData(m_pSource);
     else if (canPaste()) // with nothing to paste Qt 6.4 can crash
         QTextEdit::paste();
+    else if (!isReadOnly()) // nothing replaces the selection too
+        textCursor().removeSelectedText();
     m_bInserting = bOuter;
 }
 

@@ -14,6 +14,12 @@ int margin(QLayout* layout) {
     return layout->margin();
 }
 
+void setButtonText(QWidget* widget, QPalette::ColorGroup state, const QColor& color) {
+    QPalette palette = widget->palette();
+    palette.setColor(state, QColorGroup::ButtonText, color);
+    widget->setPalette(palette);
+}
+
 unsigned int dialogFlag() {
     return Qt::WType_Dialog;
 }

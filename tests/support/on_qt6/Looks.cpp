@@ -16,6 +16,12 @@ int margin(QLayout* layout) {
     return margins == QMargins(left, left, left, left) ? left : -1;
 }
 
+void setButtonText(QWidget* widget, QPalette::ColorGroup state, const QColor& color) {
+    QPalette palette = widget->palette();
+    palette.setColor(state, QPalette::ButtonText, color);
+    widget->setPalette(palette);
+}
+
 unsigned int dialogFlag() {
     return Qt::Dialog;
 }
