@@ -54,8 +54,8 @@ private:
 
     bool m_bCheckType;
     bool m_bCheckSize;
-    std::vector<IImage::CType> m_vAllowedTypes; ///< Each once.
-    std::vector<CSize> m_vAllowedSizes;         ///< Each once and in order, once they are used.
+    std::vector<IImage::CType> m_vAllowedTypes;       ///< In the order added.
+    std::vector<CSize> m_vAllowedSizes;               ///< In the order added.
     std::map<std::string, const CImage*> m_mapImages; ///< The last result.
 };
 

@@ -9,7 +9,6 @@
 #include <ruqlib2core/CValueString.h>
 #include <ruqlib2core/CValueVector.h>
 #include <ruqlib2image/CImage.h>
-#include <tuple>
 #include <typeinfo>
 
 namespace TEVU {
@@ -32,11 +31,9 @@ T* pointerTo(const CValue* value) {
     return exactly<CValuePointer<T>>(value) ? UnwrapPointer<T>(value) : nullptr;
 }
 
-bool isBefore(const CSize& a, const CSize& b) {
-    const auto key = [](const CSize& size) {
-        return std::make_tuple(size.Dimension(), size[0], size[1], size[2]);
-    };
-    return key(a) < key(b);
+template <class T>
+bool contains(const std::vector<T>& list, const T& wanted) {
+    return std::find(list.begin(), list.end(), wanted) != list.end();
 }
 
 std::string nameOf(const CValueMap& record) {
@@ -58,23 +55,19 @@ CAvailableImages::CAvailableImages(const CAvailableImages& other) = default;
 CAvailableImages::~CAvailableImages() = default;
 
 void CAvailableImages::addAllowedType(const IImage::CType& type) {
-    if (std::find(m_vAllowedTypes.begin(), m_vAllowedTypes.end(), type) == m_vAllowedTypes.end())
-        m_vAllowedTypes.push_back(type);
+    m_vAllowedTypes.push_back(type);
 }
 
 void CAvailableImages::addAllowedSize(const CSize& size) {
     m_vAllowedSizes.push_back(size);
 }
 
-// Sizes are looked up in order, so that many of them do not make each image dearer.
 bool CAvailableImages::checkWhiteList(const CImage* image) const {
     if (!image)
         return false;
-    if (m_bCheckType && std::find(m_vAllowedTypes.begin(), m_vAllowedTypes.end(), image->Type()) ==
-                            m_vAllowedTypes.end())
+    if (m_bCheckType && !contains(m_vAllowedTypes, image->Type()))
         return false;
-    return !m_bCheckSize || std::binary_search(m_vAllowedSizes.begin(), m_vAllowedSizes.end(),
-                                               image->Size(), isBefore);
+    return !m_bCheckSize || contains(m_vAllowedSizes, image->Size());
 }
 
 void CAvailableImages::addImage(const CValue* element) {
@@ -91,7 +84,6 @@ std::map<std::string, const CImage*> CAvailableImages::operator()(const CValueMa
     const auto* const elements = exactly<CValueVector>(input.Entry(c_images, false));
     if (!elements)
         return m_mapImages; // kept: that of the call before
-    std::sort(m_vAllowedSizes.begin(), m_vAllowedSizes.end(), isBefore);
     m_mapImages.clear();
     for (const CValue_Key& key : elements->Keys())
         addImage(elements->Entry(key, false));
