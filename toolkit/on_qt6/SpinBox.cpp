@@ -26,4 +26,9 @@ void SpinBox::setLineStep(int step) {
     setSingleStep(std::abs(step));
 }
 
+void SpinBox::stepBy(int steps) {
+    interpretText();
+    Bridged<QSpinBox>::stepBy(steps);
+}
+
 } // namespace qt3

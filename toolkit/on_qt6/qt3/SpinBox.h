@@ -30,6 +30,9 @@ public:
 
     /// The absolute value counts.
     void setLineStep(int step);
+
+    /// Commits typed text first, with an announcement of its own.
+    void stepBy(int steps) override;
 };
 
 } // namespace qt3
