@@ -41,6 +41,32 @@ CValueString* string(const std::string& value) {
     return new CValueString(value);
 }
 
+/// The same values, but of classes of their own.
+class COtherString : public CValueString {
+public:
+    using CValueString::CValueString;
+    COtherString* Clone() const override { return new COtherString(*this); }
+};
+
+class COtherLong : public CValueLong {
+public:
+    using CValueLong::CValueLong;
+    COtherLong* Clone() const override { return new COtherLong(*this); }
+};
+
+class COtherVector : public CValueVector {
+public:
+    using CValueVector::CValueVector;
+    COtherVector* Clone() const override { return new COtherVector(*this); }
+};
+
+template <class T>
+class COtherPointer : public CValuePointer<T> {
+public:
+    using CValuePointer<T>::CValuePointer;
+    COtherPointer* Clone() const override { return new COtherPointer(*this); }
+};
+
 /// An application's open images: the records, and the input that points to them.
 class Documents {
 public:
@@ -224,6 +250,22 @@ TEST_F(AvailableImages, IndexOfAnotherTypeAddsNothing) {
     m_documents.add("b", &m_small).SetEntry("index", new TEVU::CValueDouble(2));
     m_documents.add("c", &m_small).SetEntry("index", new TEVU::CValueBool(false));
     EXPECT_EQ(all(), (Images{{"a", &m_small}, {"b", &m_small}, {"c", &m_small}}));
+}
+
+TEST_F(AvailableImages, ValuesOfDerivedClassesAreOfAnotherType) {
+    CValueMap derivedList;
+    derivedList.SetEntry(c_available, new COtherVector);
+    CValueMap record;
+    record.SetEntry("label", string("record"));
+    record.SetEntry("content", new CValuePointer<CImage>(&m_small));
+    m_documents.addElement(new COtherPointer<CValueMap>(&record));
+    m_documents.add("label", &m_small).SetEntry("label", new COtherString(std::string("label")));
+    m_documents.add("content", &m_small).SetEntry("content", new COtherPointer<CImage>(&m_small));
+    m_documents.add("index", &m_small).SetEntry("index", new COtherLong(2));
+
+    CAvailableImages available(false, false);
+    EXPECT_EQ(available(m_documents.input()), (Images{{"index", &m_small}}));
+    EXPECT_EQ(available(derivedList), (Images{{"index", &m_small}}));
 }
 
 TEST_F(AvailableImages, LaterImageOfTheSameNameReplacesTheEarlier) {
