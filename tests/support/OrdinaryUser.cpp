@@ -3,9 +3,12 @@
 #include "TempDir.h"
 
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <grp.h>
+#include <link.h>
 #include <pwd.h>
+#include <set>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -47,13 +50,36 @@ void bringDisplayKey(const std::string& to, const User& user) {
     setenv("XAUTHORITY", to.c_str(), true);
 }
 
+int collectFolder(dl_phdr_info* object, std::size_t, void* folders) {
+    const fs::path file(object->dlpi_name);
+    if (file.is_absolute())
+        static_cast<std::set<std::string>*>(folders)->insert(file.parent_path());
+    return 0;
+}
+
+// The build may lie where the other user cannot go, as below the home of root. What is open already is
+// reached all the same: so the libraries are looked for by way of their folders' open handles.
+void bringLibraries() {
+    std::set<std::string> folders;
+    dl_iterate_phdr(collectFolder, &folders);
+    std::string searched;
+    for (const std::string& folder : folders) {
+        const int handle = ::open(folder.c_str(), O_PATH | O_DIRECTORY);
+        if (handle >= 0)
+            searched += "/proc/self/fd/" + std::to_string(handle) + ':';
+    }
+    setenv("LD_LIBRARY_PATH", searched.c_str(), true);
+}
+
 bool become(const User& user) {
     return setgroups(0, nullptr) == 0 && setgid(user.group) == 0 && setuid(user.id) == 0;
 }
 
 [[noreturn]] void runAs(const User& user, const TempDir& home, int output) {
-    const std::string filter = "--gtest_filter=" + currentTest();
-    const std::string program = fs::read_symlink("/proc/self/exe");
+    std::string filter = "--gtest_filter=" + currentTest();
+    std::string name = fs::read_symlink("/proc/self/exe");
+    const int program = ::open("/proc/self/exe", O_PATH);
+    char* const arguments[] = {name.data(), filter.data(), nullptr};
     dup2(output, STDOUT_FILENO);
     dup2(output, STDERR_FILENO);
     bringDisplayKey(home.path("Xauthority"), user);
@@ -62,8 +88,9 @@ bool become(const User& user) {
     setenv("XDG_RUNTIME_DIR", home.path().c_str(), true);
     setenv(c_rerunMark, "1", true);
     unsetenv("GTEST_OUTPUT");
-    if (become(user))
-        execl(program.c_str(), program.c_str(), filter.c_str(), static_cast<char*>(nullptr));
+    bringLibraries();
+    if (chdir(home.path().c_str()) == 0 && become(user))
+        fexecve(program, arguments, environ);
     _exit(EXIT_FAILURE);
 }
 
