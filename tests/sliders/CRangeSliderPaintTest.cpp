@@ -5,8 +5,11 @@
 #include "Wording.h"
 
 #include <gtest/gtest.h>
+#include <memory>
 #include <ostream>
 #include <qimage.h>
+#include <qstyle.h>
+#include <qstylefactory.h>
 #include <qt3/Painter.h>
 #include <qt3/Style.h>
 #include <qt3/Widget.h>
@@ -43,9 +46,11 @@ protected:
     void paintEvent(QPaintEvent*) override {
         qt3::Pixmap picture;
         qt3::resize(&picture, this, width(), height());
-        picture.fill(Qt::white);
         {
             qt3::Painter painter(&picture);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(QColor(255, 255, 255)); // a style may use what is set
+            painter.drawRect(rect());
             drawAll(&painter);
         }
         qt3::bitBlt(this, picture);
@@ -108,15 +113,18 @@ testing::AssertionResult same(const QImage& actual, const QImage& expected) {
 class CRangeSliderPaintTest : public testing::TestWithParam<Qt::Orientation> {
 protected:
     /// A slider that has been enabled or disabled itself is compared with one that is so too.
-    QImage expected(const QWidget& like, const StLook& look, bool enabled = true) const {
+    QImage expected(const QWidget& like, const StLook& look, bool enabled = true,
+                    QStyle* style = nullptr) const {
         CExpected widget(like, GetParam(), look);
+        if (style)
+            widget.setStyle(style);
         widget.setEnabled(enabled);
         return support::grab(&widget);
     }
 
-    testing::AssertionResult shows(StShownSlider& shown, const StLook& look,
-                                   bool enabled = true) const {
-        return same(support::grab(&shown.m_slider), expected(shown.m_slider, look, enabled));
+    testing::AssertionResult shows(StShownSlider& shown, const StLook& look, bool enabled = true,
+                                   QStyle* style = nullptr) const {
+        return same(support::grab(&shown.m_slider), expected(shown.m_slider, look, enabled, style));
     }
 
     /// The colours along the slider at a distance from its edge.
@@ -308,6 +316,23 @@ TEST_P(CRangeSliderPaintTest, DisabledElementsHaveNoBlackArrow) {
     shown.m_slider.setEnabled(false);
     shown.m_slider.RenderPrimitives();
     EXPECT_TRUE(arrow(shown, 20).empty());
+}
+
+// Styles differ in which flags they heed: some draw a bar otherwise when it is pressed or horizontal.
+TEST_P(CRangeSliderPaintTest, EveryStyleDrawsTheElementsAsTheyAreGivenToIt) {
+    std::vector<std::unique_ptr<QStyle>> styles; // each outlives the slider
+    StShownSlider shown(GetParam(), c_middle);
+    const QStringList keys = QStyleFactory::keys();
+    for (int i = 0; i < static_cast<int>(keys.size()); ++i) {
+        styles.emplace_back(QStyleFactory::create(keys[i]));
+        shown.m_slider.setStyle(styles.back().get());
+        shown.press(50);
+        EXPECT_TRUE(shows(shown, {36, 96, CRangeSliderModel::eBar}, true, styles.back().get()))
+            << support::text(keys[i]);
+        shown.m_slider.hideEvent(nullptr);
+        shown.m_slider.RenderPrimitives();
+        EXPECT_TRUE(shows(shown, {36, 96}, true, styles.back().get())) << support::text(keys[i]);
+    }
 }
 
 TEST_P(CRangeSliderPaintTest, ResizingRendersAnewOnTheWholeLength) {
