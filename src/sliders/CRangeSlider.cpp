@@ -189,6 +189,9 @@ void CRangeSlider::PlaceElements() {
 
 // A stretch of the long axis over the whole thickness.
 QRect CRangeSlider::Segment(int begin, int length) const {
+    const int far = 1 << 29; // beyond any screen; twice that still is an int
+    begin = std::clamp(begin, -far, far);
+    length = std::clamp(length, -far, far);
     return IsVertical() ? QRect(rect().x(), begin, m_nHandleSize, length)
                         : QRect(begin, rect().y(), length, m_nHandleSize);
 }
