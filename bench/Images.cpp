@@ -17,10 +17,16 @@ namespace {
 
 using Images = std::map<std::string, const TEVU::CImage*>;
 
-/// What an application hands over for so many open images, which are one and the same here.
+const TEVU::CSize c_allowedSize(4, 4);
+const TEVU::IImage::CType c_allowedType = TEVU::IImage::CType::eUInt8;
+
+/// What an application hands over for so many open images. They are one and the same image, or in turn
+/// it and another one, which no filter lets through.
 class Input {
 public:
-    explicit Input(int count) : m_image(TEVU::IImage::CType::eUInt8, TEVU::CSize(4, 4)) {
+    explicit Input(int count, bool withOthers = false)
+        : m_image(c_allowedType, c_allowedSize),
+          m_other(TEVU::IImage::CType::eUInt16, TEVU::CSize(5, 5)), m_bWithOthers(withOthers) {
         auto* const elements = new TEVU::CValueVector;
         m_map.SetEntry("input/documents/available", elements);
         m_vNames.reserve(static_cast<std::size_t>(count));
@@ -43,11 +49,14 @@ private:
         TEVU::CValueMap& record = m_vRecords[static_cast<std::size_t>(i)];
         m_vNames.push_back("scan of the specimen " + std::to_string(i));
         record.SetEntry("label", new TEVU::CValueString(m_vNames.back()));
-        record.SetEntry("content", new TEVU::CValuePointer<TEVU::CImage>(&m_image));
+        TEVU::CImage* const image = m_bWithOthers && i % 2 == 1 ? &m_other : &m_image;
+        record.SetEntry("content", new TEVU::CValuePointer<TEVU::CImage>(image));
         elements->SetEntry(i, new TEVU::CValuePointer<TEVU::CValueMap>(&record));
     }
 
     TEVU::CImage m_image;
+    TEVU::CImage m_other;
+    bool m_bWithOthers;
     TEVU::CValueMap m_map;
     std::vector<std::string> m_vNames;
     std::vector<TEVU::CValueMap> m_vRecords;
@@ -55,8 +64,28 @@ private:
 
 std::shared_ptr<TEVU::CAvailableImages> withFilters() {
     auto available = std::make_shared<TEVU::CAvailableImages>(true, true);
-    available->addAllowedType(TEVU::IImage::CType::eUInt8);
-    available->addAllowedSize(TEVU::CSize(4, 4));
+    available->addAllowedType(c_allowedType);
+    available->addAllowedSize(c_allowedSize);
+    return available;
+}
+
+/// With so many allowed types: there are few different ones, and the one that fits comes last.
+std::shared_ptr<TEVU::CAvailableImages> withTypes(int count) {
+    using Type = TEVU::IImage::CType;
+    const Type others[] = {Type::eInt16, Type::eInt32, Type::eFloat32, Type::eRGB8};
+    auto available = std::make_shared<TEVU::CAvailableImages>(true, false);
+    for (int i = 0; i < count - 1; ++i)
+        available->addAllowedType(others[i % 4]);
+    available->addAllowedType(c_allowedType);
+    return available;
+}
+
+/// With so many allowed sizes, of which the last one fits.
+std::shared_ptr<TEVU::CAvailableImages> withSizes(int count) {
+    auto available = std::make_shared<TEVU::CAvailableImages>(false, true);
+    for (int i = 0; i < count - 1; ++i)
+        available->addAllowedSize(TEVU::CSize(4, 10 + i));
+    available->addAllowedSize(c_allowedSize);
     return available;
 }
 
@@ -65,6 +94,15 @@ StSides listing(int count) {
     const auto available = withFilters();
     return {[=] { benchmark::DoNotOptimize((*available)(input->map())); },
             [=] { benchmark::DoNotOptimize(input->bareMap()); }};
+}
+
+/// The same images through a filter that allows so many, and through one that allows one.
+StSides filtering(std::shared_ptr<TEVU::CAvailableImages> (*withAllowed)(int), int allowed) {
+    const auto input = std::make_shared<Input>(1000, true);
+    const auto many = withAllowed(allowed);
+    const auto one = withAllowed(1);
+    return {[=] { benchmark::DoNotOptimize((*many)(input->map())); },
+            [=] { benchmark::DoNotOptimize((*one)(input->map())); }};
 }
 
 /// The object and its result, kept.
@@ -93,6 +131,14 @@ void add(const std::string& count, int number, int batch) {
         {"CAvailableImages, heap, " + count + bare, 1.5, 1, [number] { return keeping(number); }});
 }
 
+void addFilters(int allowed) {
+    const std::string number = "CAvailableImages, 1e3 records, " + std::to_string(allowed);
+    compareTime({number + " allowed types : 1", 1.2, 5,
+                 [allowed] { return filtering(withTypes, allowed); }});
+    compareTime({number + " allowed sizes : 1", 1.2, 5,
+                 [allowed] { return filtering(withSizes, allowed); }});
+}
+
 } // namespace
 
 void addImages() {
@@ -100,6 +146,8 @@ void addImages() {
     add("1e3", 1000, 5);
     add("1e5", 100000, 1);
     add("1e6", 1000000, 1);
+    for (const int allowed : {1, 10, 100})
+        addFilters(allowed);
 }
 
 } // namespace bench

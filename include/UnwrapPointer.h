@@ -2,7 +2,7 @@
 #define RUQGUI_UNWRAPPOINTER_H
 
 #include <qt3/Export.h>
-#include <ruqlib2core/CValuePointerBase.h>
+#include <ruqlib2core/CValuePointer.h>
 #include <typeinfo>
 
 namespace TEVU {
@@ -23,6 +23,8 @@ template <class T>
 T* UnwrapPointer(const CValue* value) {
     if (!value)
         return nullptr;
+    if (typeid(*value) == typeid(CValuePointer<T>)) // nearly always, and found out quickly
+        return static_cast<const CValuePointer<T>*>(value)->Pointer();
     const auto* const pointer = value->GenericType() == CValue::ePointer
                                     ? dynamic_cast<const CValuePointerBase*>(value)
                                     : nullptr;

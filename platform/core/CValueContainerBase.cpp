@@ -88,8 +88,10 @@ std::size_t CValueContainerBase::Size() const {
 }
 
 std::vector<CValue_Key> CValueContainerBase::Keys() const {
+    const Entries& entries = CurrentEntries();
     std::vector<CValue_Key> keys;
-    for (const auto& entry : CurrentEntries())
+    keys.reserve(entries.size());
+    for (const auto& entry : entries)
         keys.push_back(entry.first);
     return keys;
 }

@@ -1,9 +1,7 @@
 #include <ruqlib2core/CValue_Key.h>
 
 #include <charconv>
-#include <functional>
 #include <optional>
-#include <tuple>
 
 namespace TEVU {
 
@@ -51,12 +49,6 @@ bool CValue_Key::operator==(const CValue_Key& other) const {
 
 bool CValue_Key::operator!=(const CValue_Key& other) const {
     return !(*this == other);
-}
-
-bool CValue_Key::operator<(const CValue_Key& other) const {
-    // "not an index" sorts as true, behind every index.
-    return std::make_tuple(!m_bIndex, m_nIndex, std::cref(m_sText)) <
-           std::make_tuple(!other.m_bIndex, other.m_nIndex, std::cref(other.m_sText));
 }
 
 bool CValue_Key::operator>(const CValue_Key& other) const {

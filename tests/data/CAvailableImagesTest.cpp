@@ -166,6 +166,38 @@ TEST_F(AvailableImages, ResultBeforeComesUnfilteredAgain) {
     EXPECT_EQ(available(CValueMap()), (Images{{"a", &m_small}}));
 }
 
+TEST_F(AvailableImages, NamesOfEveryLengthComeAgainAsTheyWere) {
+    using namespace std::string_literals;
+    std::string longest(70000, 'a');
+    const std::string labels[] = {"a",     "a\0"s,        "a\0b"s,    "\0"s,         "b",
+                                  longest, longest + "a", "\xff\x80", "\xff\x80\x80"};
+    for (const std::string& label : labels)
+        m_documents.add(label, &m_small);
+    for (const std::size_t length : {126u, 127u, 128u, 129u, 255u, 256u, 16383u, 16384u, 16385u}) {
+        m_documents.add(std::string(length, 'c'), &m_deep);
+        m_documents.add(std::string(length, 'c') + 'd', &m_small);
+    }
+    CAvailableImages available(false, false);
+    const Images first = available(m_documents.input());
+    EXPECT_EQ(first.size(), 9u + 18u);
+    EXPECT_EQ(available(CValueMap()), first);
+    EXPECT_EQ(CAvailableImages(available)(CValueMap()), first);
+}
+
+TEST_F(AvailableImages, SmallerResultReplacesALargerOneAndTheOtherWayRound) {
+    Documents few;
+    few.add("few", &m_small);
+    for (int i = 0; i < 100; ++i)
+        m_documents.add("of many", &m_deep, i);
+    CAvailableImages available(false, false);
+    const Images many = available(m_documents.input());
+    EXPECT_EQ(many.size(), 100u);
+    available(few.input());
+    EXPECT_EQ(available(CValueMap()), (Images{{"few", &m_small}}));
+    available(m_documents.input());
+    EXPECT_EQ(available(CValueMap()), many);
+}
+
 TEST_F(AvailableImages, EmptyListEmptiesTheResult) {
     m_documents.add("a", &m_small);
     CAvailableImages available(false, false);
@@ -287,6 +319,21 @@ TEST_F(AvailableImages, LaterIsByNumberNotByTextAndGapsDoNotMatter) {
     EXPECT_EQ(all(), (Images{{"a", &m_deep}}));
 }
 
+TEST_F(AvailableImages, ElementsBehindAGapAreFound) {
+    CImage* const images[] = {&m_small, &m_deep, &m_large, &m_small};
+    const int indices[] = {0, 1, 3, 1000000000};
+    std::deque<CValueMap> records;
+    for (int i = 0; i < 4; ++i) {
+        records.emplace_back();
+        records.back().SetEntry("label", string(i == 2 ? "last" : "a"));
+        records.back().SetEntry("index", new CValueLong(i));
+        records.back().SetEntry("content", new CValuePointer<CImage>(images[i]));
+        m_documents.setElement(indices[i], new CValuePointer<CValueMap>(&records.back()));
+    }
+    EXPECT_EQ(all(),
+              (Images{{"a 0", &m_small}, {"a", &m_deep}, {"last 2", &m_large}, {"a 3", &m_small}}));
+}
+
 TEST_F(AvailableImages, LaterImageThatDoesNotPassReplacesNothing) {
     m_documents.add("a", &m_small);
     m_documents.add("a", &m_deep);
@@ -333,6 +380,33 @@ TEST_F(ImageFilter, OnlyAllowedSizesPass) {
     available.addAllowedSize(CSize(3, 2));
     available.addAllowedSize(CSize(2, 3));
     EXPECT_EQ(available(m_documents.input()), (Images{{"small", &m_small}, {"turned", &turned}}));
+}
+
+TEST_F(ImageFilter, AmongManyAllowedSizesOnlyEqualOnesPass) {
+    CImage flat(Type::eUInt8, CSize(2, 3, 1));
+    CImage empty(Type::eUInt8, CSize(2, 3, 0));
+    CImage line(Type::eUInt8, CSize(2));
+    m_documents.add("small", &m_small);
+    m_documents.add("large", &m_large);
+    m_documents.add("flat", &flat);
+    m_documents.add("empty", &empty);
+    m_documents.add("line", &line);
+    CAvailableImages available(false, true);
+    for (int i = 1; i <= 1000; ++i) {
+        available.addAllowedSize(CSize(7, i));
+        available.addAllowedSize(CSize(2, 3, 1));
+    }
+    EXPECT_EQ(available(m_documents.input()), (Images{{"flat", &flat}}));
+
+    available.addAllowedSize(CSize(2));
+    available.addAllowedSize(CSize(2, 3, 0));
+    EXPECT_EQ(available(m_documents.input()),
+              (Images{{"flat", &flat}, {"empty", &empty}, {"line", &line}}));
+
+    CAvailableImages copy(available);
+    copy.addAllowedSize(CSize(4, 5));
+    EXPECT_EQ(copy(m_documents.input()).size(), 4u);
+    EXPECT_EQ(available(m_documents.input()).size(), 3u);
 }
 
 TEST_F(ImageFilter, TypeAndSizeBothHaveToFit) {
@@ -530,6 +604,8 @@ public:
             filter.types.push_back(m_chance.of(m_types));
         for (int i = m_chance.below(4); i > 0; --i)
             filter.sizes.push_back(m_chance.of(m_sizes));
+        for (int i = m_chance.oneIn(2) ? 20 : 0; i > 0; --i) // of more than a few
+            filter.sizes.emplace_back(m_chance.below(6), m_chance.below(3), m_chance.below(2));
         return filter;
     }
 
@@ -553,7 +629,8 @@ private:
 
     Chance m_chance;
     const std::vector<Type> m_types{Type::eUInt8, Type::eUInt16, Type::eFloat32, Type::eRGB8};
-    const std::vector<CSize> m_sizes{CSize(4), CSize(4, 1), CSize(1, 4), CSize(2, 2, 1)};
+    const std::vector<CSize> m_sizes{CSize(4), CSize(4, 1), CSize(4, 1, 1), CSize(1, 4),
+                                     CSize(2, 2, 1)};
     const std::vector<std::string> m_labels{"", "a", "a 2", "a 0", "b", "\xe4", " "};
     std::vector<std::unique_ptr<CImage>> m_images;
 };

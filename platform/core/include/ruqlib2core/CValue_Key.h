@@ -27,12 +27,23 @@ public:
 
     bool operator==(const CValue_Key& other) const;
     bool operator!=(const CValue_Key& other) const;
-    bool operator<(const CValue_Key& other) const;
+    bool operator<(const CValue_Key& other) const {
+        if (m_bIndex != other.m_bIndex)
+            return m_bIndex;
+        return m_bIndex ? m_nIndex < other.m_nIndex : isBefore(m_sText, other.m_sText);
+    }
     bool operator>(const CValue_Key& other) const;
     bool operator<=(const CValue_Key& other) const;
     bool operator>=(const CValue_Key& other) const;
 
 private:
+    // Every look-up in a container comes here several times, and mostly the first byte decides.
+    static bool isBefore(const std::string& a, const std::string& b) {
+        const auto first = static_cast<unsigned char>(a[0]); // of an empty text the NUL behind it
+        const auto second = static_cast<unsigned char>(b[0]);
+        return first != second ? first < second : a < b;
+    }
+
     std::string m_sText; ///< Empty for an index.
     int m_nIndex;        ///< 0 for a text.
     bool m_bIndex;
