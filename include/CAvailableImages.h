@@ -36,7 +36,7 @@ class CValueMap;
 /// 3. A filter that is on and has nothing to allow lets nothing through.
 ///
 /// The time for an image hardly depends on how many types and sizes are allowed. What is kept for the
-/// next call is smaller than what is returned, about a third of it when names have beginnings in common.
+/// next call is smaller than what is returned, a tenth of it when names have beginnings in common.
 class RUQGUI_EXPORT CAvailableImages {
 public:
     CAvailableImages(bool checkType, bool checkSize);
