@@ -3,9 +3,45 @@
 #include <cctype>
 #include <chrono>
 #include <qapplication.h>
+#include <qobject.h>
 #include <thread>
 
 namespace support {
+
+namespace {
+
+/// Presses a key in the menu that pops up, and Escape should that not close it: a menu may run a loop of
+/// its own until it is closed.
+class CMenuUser : public QObject {
+public:
+    explicit CMenuUser(int key) : m_nKey(key) { startTimer(10); }
+
+    bool HasChosen() const { return m_nPresses == 1 && !QApplication::activePopupWidget(); }
+
+protected:
+    void timerEvent(QTimerEvent*) override {
+        QWidget* const menu = QApplication::activePopupWidget();
+        if (!menu || !menu->isVisible())
+            return;
+        const char typed[] = {static_cast<char>(std::tolower(m_nKey)), '\0'};
+        if (++m_nPresses == 1)
+            keyClick(menu, m_nKey, support::Modifier::None, typed);
+        else
+            keyClick(menu, Qt::Key_Escape);
+    }
+
+private:
+    int m_nKey;
+    int m_nPresses = 0;
+};
+
+} // namespace
+
+bool chooseInContextMenu(QWidget* widget, QPoint at, int key) {
+    const CMenuUser user(key);
+    sendContextMenu(widget, at);
+    return waitUntil([&] { return user.HasChosen(); }, 1000);
+}
 
 void mouseClick(QWidget* widget, QPoint at, Button button, Modifier modifier) {
     mousePress(widget, at, button, modifier);

@@ -57,6 +57,12 @@ void sendKey(QWidget* widget, int key, Modifier modifier = Modifier::None, const
 /// parents until one takes it.
 void wheel(QWidget* widget, int delta, Modifier modifier = Modifier::None);
 
+/// Asks for the context menu at \a at and chooses the entry with the accelerator \a key, one of
+/// Qt::Key_A…Z. False, with the menu closed, when none came.
+bool chooseInContextMenu(QWidget* widget, QPoint at, int key);
+/// Only the event that asks for it. On Qt 3.3 a menu may keep it until it is closed.
+void sendContextMenu(QWidget* widget, QPoint at);
+
 /// Shows the widget, and makes its window the active one.
 void show(QWidget* widget);
 /// Gives the focus as the user would see it: in an active window.

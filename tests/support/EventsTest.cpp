@@ -160,6 +160,27 @@ TEST(Events, ClipboardIsPasted) {
     EXPECT_EQ(support::text(edit.text()), "from elsewhere");
 }
 
+TEST(Events, EntryOfAContextMenuIsChosen) {
+    QLineEdit edit(nullptr);
+    support::show(&edit);
+    support::setClipboard("pasted");
+    EXPECT_TRUE(support::chooseInContextMenu(&edit, QPoint(5, 5), Qt::Key_P));
+    EXPECT_EQ(support::text(edit.text()), "pasted");
+}
+
+TEST(Events, ContextMenuWithoutTheEntryIsClosed) {
+    QLineEdit edit(nullptr);
+    support::show(&edit);
+    EXPECT_FALSE(support::chooseInContextMenu(&edit, QPoint(5, 5), Qt::Key_X));
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST(Events, MissingContextMenuIsNoticed) {
+    QWidget plain;
+    support::show(&plain);
+    EXPECT_FALSE(support::chooseInContextMenu(&plain, QPoint(5, 5), Qt::Key_P));
+}
+
 TEST(Events, KeysForASpinBoxReachIt) {
     QSpinBox box(nullptr);
     support::giveFocus(&box);

@@ -98,7 +98,14 @@ TEST(TextEditPasteTest, ShiftInsertPastesOnce) {
 TEST(TextEditPasteTest, PlainClassReachesTheOverrideOnce) {
     StPasting pasting("abc");
     QTextEdit* const plain = &pasting.edit;
-    plain->paste(); // what the context menu does
+    plain->paste();
+    EXPECT_EQ(pasting.edit.m_vCalls, (Lines{"paste"}));
+    EXPECT_EQ(ascii(pasting.edit.text()), "abc");
+}
+
+TEST(TextEditPasteTest, ContextMenuPastesOnce) {
+    StPasting pasting("abc");
+    ASSERT_TRUE(support::chooseInContextMenu(pasting.edit.viewport(), QPoint(5, 5), Qt::Key_P));
     EXPECT_EQ(pasting.edit.m_vCalls, (Lines{"paste"}));
     EXPECT_EQ(ascii(pasting.edit.text()), "abc");
 }

@@ -112,6 +112,12 @@ TEST_F(NoNewLines, ShiftInsertIsAPaste) {
     EXPECT_EQ(text(), "xyz");
 }
 
+TEST_F(NoNewLines, ContextMenuIsAPaste) {
+    copy("x\r\ny\rz");
+    ASSERT_TRUE(support::chooseInContextMenu(m_edit.viewport(), QPoint(5, 5), Qt::Key_P));
+    EXPECT_EQ(text(), "xyz");
+}
+
 TEST_F(NoNewLines, CallThroughTheBaseIsAPaste) {
     copy("x\r\ny\rz");
     qt3::TextEdit* const base = &m_edit;

@@ -101,6 +101,11 @@ void show(QWidget* widget) {
     processEvents();
 }
 
+void sendContextMenu(QWidget* widget, QPoint at) {
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, widget->mapToGlobal(at), Qt::NoButton);
+    QApplication::sendEvent(widget, &event);
+}
+
 void processEvents() {
     QApplication::syncX();
     QApplication::sendPostedEvents();

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
@@ -105,6 +106,11 @@ void show(QWidget* widget) {
     window->activateWindow();
     waitUntil([=] { return window->isActiveWindow(); });
     processEvents();
+}
+
+void sendContextMenu(QWidget* widget, QPoint at) {
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, widget->mapToGlobal(at));
+    QApplication::sendEvent(widget, &event);
 }
 
 void processEvents() {
