@@ -100,7 +100,8 @@ protected:
     virtual void ValueChange(); ///< Called before each ValueChanged(); empty here.
     virtual void RangeChange(); ///< Called by SetBound(), before all else; empty here.
 
-    /// Paints everything into the picture; does not put it on the screen.
+    /// Paints everything into the picture; does not put it on the screen. Without a bar while the
+    /// handles overlap: with a reversed range, or in a widget without room for both.
     void RenderPrimitives();
 
     /// The extent along the long axis, in pixels.

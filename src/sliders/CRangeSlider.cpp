@@ -202,6 +202,8 @@ unsigned CRangeSlider::FlagsOf(EnGrabState element) const {
 
 void CRangeSlider::DrawElement(qt3::Painter& painter, qt3::Style::PrimitiveElement element,
                                const QRect& elementRect, unsigned flags) const {
+    if (elementRect.width() < 0 || elementRect.height() < 0)
+        return; // a bar between handles that overlap: styles complain of it, or draw anything
     if (isEnabled())
         flags |= qt3::Style::Style_Enabled;
     if (!IsVertical())

@@ -2,8 +2,10 @@
 
 #include "RangeSliderModel.h"
 #include "TalkingRangeSlider.h"
+#include "Warnings.h"
 #include "Wording.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <memory>
 #include <ostream>
@@ -83,9 +85,10 @@ private:
     void drawAll(qt3::Painter* painter) const {
         draw(painter, Style::PE_Panel, part(0, m_bVertical ? height() : width()),
              Style::Style_Sunken);
-        draw(painter, Style::PE_ScrollBarSlider,
-             part(m_look.lowerPixel, m_look.upperPixel - m_look.lowerPixel),
-             down(CRangeSliderModel::eBar));
+        if (m_look.upperPixel >= m_look.lowerPixel)
+            draw(painter, Style::PE_ScrollBarSlider,
+                 part(m_look.lowerPixel, m_look.upperPixel - m_look.lowerPixel),
+                 down(CRangeSliderModel::eBar));
         drawHandle(painter, m_bVertical ? Style::PE_ArrowDown : Style::PE_ArrowRight,
                    m_look.lowerPixel - c_handle, down(CRangeSliderModel::eLowerHandle));
         drawHandle(painter, m_bVertical ? Style::PE_ArrowUp : Style::PE_ArrowLeft,
@@ -379,6 +382,37 @@ TEST_P(CRangeSliderPaintTest, HandlesOfAReversedRangePassEachOther) {
     EXPECT_EQ(shown.m_slider.range(), "140..139 in 40..140");
     ASSERT_FALSE(upper.empty());
     EXPECT_LT(upper.front(), upper.back());
+}
+
+TEST_P(CRangeSliderPaintTest, BarOfAReversedRangeIsNotSeenInAnyStyle) {
+    const support::Warnings warnings;
+    std::vector<std::unique_ptr<QStyle>> styles;       // each outlives the slider
+    StShownSlider shown(GetParam(), {80, 20, 0, 100}); // handles at 36 and 80, none between them
+    const QStringList keys = QStyleFactory::keys();
+    for (int i = 0; i < static_cast<int>(keys.size()); ++i) {
+        SCOPED_TRACE(support::text(keys[i]));
+        styles.emplace_back(QStyleFactory::create(keys[i]));
+        shown.m_slider.setStyle(styles.back().get());
+        for (const bool enabled : {true, false}) {
+            shown.m_slider.setEnabled(enabled);
+            shown.m_slider.RenderPrimitives();
+            const std::vector<unsigned> colors = row(shown, 8);
+            EXPECT_EQ(std::count(colors.begin() + 52, colors.begin() + 80, colors[110]), 28);
+        }
+    }
+    EXPECT_EQ(warnings.lines(), Lines{});
+}
+
+TEST_P(CRangeSliderPaintTest, SliderWithoutRoomForItsHandlesIsRenderedInEveryStyle) {
+    const support::Warnings warnings;
+    for (const QString& key : QStyleFactory::keys()) {
+        const std::unique_ptr<QStyle> style(QStyleFactory::create(key));
+        StShownSlider shown(GetParam(), c_middle, 22);
+        shown.m_slider.setStyle(style.get());
+        shown.m_slider.RenderPrimitives();
+        EXPECT_TRUE(shows(shown, {16 - 2, 16 - 8}, true, style.get())) << support::text(key);
+    }
+    EXPECT_EQ(warnings.lines(), Lines{});
 }
 
 TEST_P(CRangeSliderPaintTest, ExtremeValuesArePainted) {
