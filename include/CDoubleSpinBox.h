@@ -46,7 +46,9 @@ struct StDoubleSpinBoxPrivate;
 /// Where one number is shown with fewer digits than it has, the digits beyond stay as long as
 /// nothing interprets the text. One oddity belongs to it: in a visible box that has the focus and a
 /// prefix or a suffix, a change of the value selects the number, and that interprets the text that
-/// was just shown. The value then becomes the number shown, with a second pair of signals.
+/// was just shown. The value then becomes the number shown, with a second pair of signals. Where that
+/// would go on for ever, as in a reversed range or with what is not a number, it ends when a value comes
+/// for the second time, and after ten changes at the latest.
 ///
 /// A copy has the same range, texts and flags, and works on the editor and the buttons of the
 /// original: they stay the original's children, and their signals go to the original. Of the two,

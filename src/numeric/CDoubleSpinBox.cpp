@@ -10,22 +10,16 @@
 #include <qt3/WheelSteps.h>
 
 #include <algorithm>
+#include <cmath>
 #include <qapplication.h>
+#include <vector>
 
 namespace TEVU {
-
-struct StDoubleSpinBoxPrivate {
-    qt3::Pointer<qt3::SpinWidget> m_pSpinWidget; ///< Of a copy, the original's.
-    bool m_bSelect = false; ///< The display is being rebuilt for a change: select the number.
-
-    // What calls back and so has to be told of the end. Null in a copy, unchanged by assignment.
-    qt3::Pointer<qt3::LineEdit> m_pOwnEditor;
-    qt3::Pointer<CDoubleSpinBoxValidator> m_pOwnValidator;
-};
 
 namespace {
 
 const int c_nMinTextWidth = 35;
+const std::size_t c_nMostReadings = 10;
 
 enum class KeyIntent { Pass, Leave, StepUp, StepDown, Interpret };
 
@@ -47,6 +41,26 @@ KeyIntent intentOf(const QKeyEvent* event) {
 }
 
 } // namespace
+
+struct StDoubleSpinBoxPrivate {
+    qt3::Pointer<qt3::SpinWidget> m_pSpinWidget; ///< Of a copy, the original's.
+    bool m_bSelect = false; ///< The display is being rebuilt for a change: select the number.
+    std::vector<double>
+        m_vChanges; ///< The values whose changes are under way, the outermost first.
+
+    /// The present change is one to a value that an outer one is already for, or leads too deep.
+    bool isGoingRound() const {
+        const auto same = [this](double v) {
+            return v == m_vChanges.back() || (std::isnan(v) && std::isnan(m_vChanges.back()));
+        };
+        return m_vChanges.size() > c_nMostReadings ||
+               std::any_of(m_vChanges.begin(), m_vChanges.end() - 1, same);
+    }
+
+    // What calls back and so has to be told of the end. Null in a copy, unchanged by assignment.
+    qt3::Pointer<qt3::LineEdit> m_pOwnEditor;
+    qt3::Pointer<CDoubleSpinBoxValidator> m_pOwnValidator;
+};
 
 CDoubleSpinBox::CDoubleSpinBox(QWidget* parent, const char* name)
     : qt3::Widget(parent, name), m_bEdited(false), m_bWrapping(false), m_pReserved(nullptr),
@@ -114,6 +128,7 @@ void CDoubleSpinBox::buildChildren() {
     m_pPrivate->m_pOwnEditor = m_pEditor;
     m_pPrivate->m_pOwnValidator = m_pValidator;
     spinWidget->setEditWidget(m_pEditor);
+    m_pEditor->setEnabled(true); // in a disabled parent a toolkit may disable what moves, for good
     m_pEditor->setValidator(m_pValidator);
     m_pEditor->installEventFilter(this);
     m_pEditor->setFrame(false);
@@ -343,9 +358,12 @@ void CDoubleSpinBox::updateDisplay() {
 void CDoubleSpinBox::showCurrentText() {
     m_pEditor->setUpdatesEnabled(false);
     m_pEditor->setText(currentValueText()); // pending until updateDisplay() ends
-    if (m_pPrivate->m_bSelect && isVisible() && (hasFocus() || m_pEditor->hasFocus()))
+    if (m_pPrivate->m_bSelect && isVisible() && (hasFocus() || m_pEditor->hasFocus())) {
+        // Selecting reads what has just been shown. That could go on for ever: a text may read as
+        // another value, whose text reads as this one, or as a still larger one.
+        m_bEdited = m_bEdited && !m_pPrivate->isGoingRound();
         selectAll();
-    else if (!suffix().isEmpty() && text().endsWith(suffix()))
+    } else if (!suffix().isEmpty() && text().endsWith(suffix()))
         m_pEditor->setCursorPosition(qt3::length(text()) - qt3::length(suffix()));
     m_pEditor->setUpdatesEnabled(true);
     qt3::repaint(m_pEditor, false);
@@ -369,9 +387,11 @@ void CDoubleSpinBox::interpretText() {
 }
 
 void CDoubleSpinBox::valueChange() {
+    m_pPrivate->m_vChanges.push_back(CRangeControl::value());
     m_pPrivate->m_bSelect = hasFocus();
     updateDisplay();
     m_pPrivate->m_bSelect = false;
+    m_pPrivate->m_vChanges.pop_back();
     emit valueChanged(value());
     emit valueChanged(currentValueText());
 }

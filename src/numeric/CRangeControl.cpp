@@ -1,7 +1,10 @@
 #include "CRangeControl.h"
 
 #include <algorithm>
+#include <cmath>
 #include <qglobal.h>
+#include <qt3/Text.h>
+#include <string>
 
 namespace TEVU {
 
@@ -10,6 +13,12 @@ namespace {
 // Not std::abs: a step of -0.0 is not below zero and stays as it is.
 double withoutSign(double step) {
     return step < 0.0 ? -step : step;
+}
+
+// As "%lf" prints it. Not left to the warning itself: toolkits round ties differently.
+std::string printed(double v) {
+    const std::string text = qt3::ascii(qt3::number(v, 'f', 6));
+    return v == 0.0 && std::signbit(v) ? '-' + text : text;
 }
 
 } // namespace
@@ -81,7 +90,8 @@ void CRangeControl::subtractPage() {
 
 void CRangeControl::setRange(double minValue, double maxValue) {
     if (minValue > maxValue) {
-        qWarning("CRangeControl::setRange: minValue %lf > maxValue %lf", minValue, maxValue);
+        qWarning("CRangeControl::setRange: minValue %s > maxValue %s", printed(minValue).c_str(),
+                 printed(maxValue).c_str());
         maxValue = minValue;
     }
     if (minValue == m_dMinValue && maxValue == m_dMaxValue)

@@ -454,6 +454,17 @@ TEST_F(CDoubleSpinBox, ButtonsFollowTheParent) {
     EXPECT_TRUE(canStepUp() && canStepDown());
 }
 
+TEST_F(CDoubleSpinBox, EditorOfABoxMadeInADisabledParentIsEnabledWithIt) {
+    QWidget parent(&m_window);
+    parent.setEnabled(false);
+    Box box(&parent);
+    EXPECT_FALSE(box.editor()->isEnabled());
+
+    parent.setEnabled(true);
+
+    EXPECT_TRUE(box.editor()->isEnabled());
+}
+
 TEST_F(CDoubleSpinBox, ButtonsStayOffWhenTheParentOfADisabledBoxIsEnabled) {
     m_box.setEnabled(false);
     m_window.setEnabled(false);
@@ -601,6 +612,44 @@ TEST_F(CDoubleSpinBox, ChangeInTheFocusWithASuffixKeepsOnlyTheDigitsShownBecause
 
     EXPECT_EQ(box.value(), 0.3);
     EXPECT_EQ(recorder.take(), change("0.3", "0.3 mm") + change("0.3", "0.3 mm"));
+}
+
+TEST_F(CDoubleSpinBox, ChangeInTheFocusOfAReversedRangeWithASuffixComesToAnEnd) {
+    Box box(97.0, 33.0, 4.0, &m_window, "box"); // each end is clamped to the other one
+    box.setSuffix(" mm");
+    support::giveFocus(&box);
+    support::Recorder recorder;
+    recorder.tapAll(&box, "box");
+
+    box.stepUp();
+
+    EXPECT_EQ(box.value(), 33.0);
+    EXPECT_EQ(box.shown(), "33 mm");
+    // Both steps of a step go to the other end, to which its text leads, and back.
+    EXPECT_EQ(recorder.take().size(), 2u * 6u);
+}
+
+TEST_F(CDoubleSpinBox, ChangeInTheFocusToWhatIsNoNumberWithASuffixComesToAnEnd) {
+    m_box.setSuffix(" mm");
+    support::giveFocus(&m_box);
+
+    m_box.setValue(std::nan(""));
+
+    EXPECT_TRUE(std::isnan(m_box.value()));
+    EXPECT_EQ(m_box.shown(), "nan mm");
+}
+
+TEST_F(CDoubleSpinBox, ChangeInTheFocusWithADigitAsPrefixReadsOneMoreDigitAtMostTenTimes) {
+    Box box(0.0, 1e300, 1.0, &m_window, "box");
+    box.setPrefix("1");
+    support::giveFocus(&box);
+    support::Recorder recorder;
+    recorder.tapAll(&box, "box");
+
+    box.setValue(5.0);
+
+    EXPECT_EQ(recorder.take().size(), 22u);
+    EXPECT_EQ(box.shown(), "1" + support::text(box.mapValueToText(box.value())));
 }
 
 // Reading the text

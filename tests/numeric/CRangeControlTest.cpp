@@ -432,6 +432,18 @@ TEST(CRangeControlTest, ReversedRangeIsReportedAlsoWhenItCollapsesToTheRangeInFo
     EXPECT_EQ(control.calls, Calls());
 }
 
+TEST(CRangeControlTest, ReportRoundsTiesToEvenAndKeepsTheSignOfZeroAsPrintfDoes) {
+    Control control = controlAt(2.0);
+    const support::Warnings warnings;
+
+    control.setRange(85884.1640625, -0.0);
+    control.setRange(0.0000015, -0.0000005);
+
+    EXPECT_EQ(warnings.lines(),
+              (Lines{"CRangeControl::setRange: minValue 85884.164062 > maxValue -0.000000",
+                     "CRangeControl::setRange: minValue 0.000002 > maxValue -0.000000"}));
+}
+
 TEST(CRangeControlTest, RangeOfOnePointIsNotReversed) {
     Control control = controlAt(2.0);
     const support::Warnings warnings;
