@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 using qt3::ascii;
 using qt3::fromAscii;
@@ -20,6 +21,18 @@ void focus(qt3::LineEdit& field) {
     support::show(&field);
     support::giveFocus(&field);
 }
+
+/// Accepts one word and its beginnings.
+class CVocabulary : public QValidator {
+public:
+    explicit CVocabulary(QObject* parent) : QValidator(parent) {}
+
+    State validate(QString& text, int&) const override {
+        return m_sWord.rfind(ascii(text), 0) == 0 ? Acceptable : Invalid;
+    }
+
+    mutable std::string m_sWord;
+};
 
 } // namespace
 
@@ -106,6 +119,51 @@ TEST(LineEditTest, TypingReplacesASelectedRejectedText) {
     support::typeText(&field, "12");
 
     EXPECT_EQ(ascii(field.text()), "12");
+}
+
+TEST(LineEditTest, RefusedKeyDropsTheSelectionAndLeavesTheCursor) {
+    qt3::LineEdit field(fromAscii("123456"), nullptr);
+    qt3::DoubleValidator validator(&field);
+    field.setValidator(&validator);
+    focus(field);
+    support::keyClick(&field, Qt::Key_End);
+    support::keyClick(&field, Qt::Key_Left);
+    support::keyClick(&field, Qt::Key_Left, support::Modifier::Shift);
+    support::keyClick(&field, Qt::Key_Left, support::Modifier::Shift);
+
+    support::typeText(&field, "x");
+
+    EXPECT_FALSE(field.hasSelectedText());
+    EXPECT_EQ(field.cursorPosition(), 3);
+    support::typeText(&field, "0");
+    EXPECT_EQ(ascii(field.text()), "1230456");
+}
+
+TEST(LineEditTest, SelectionReplacedByTheSameTextIsTold) {
+    qt3::LineEdit field(fromAscii("5"), nullptr);
+    qt3::DoubleValidator validator(&field);
+    field.setValidator(&validator);
+    focus(field);
+    field.selectAll();
+    support::Recorder recorder;
+    recorder.tap(&field, "textChanged(const QString&)", "field");
+
+    support::typeText(&field, "5");
+
+    EXPECT_EQ(recorder.take(), (Lines{"field.textChanged(\"5\")"}));
+}
+
+TEST(LineEditTest, ValidatorThatHasComeToAcceptTheTextIsAskedAboutTheNextKey) {
+    qt3::LineEdit field(nullptr);
+    const CVocabulary validator(&field);
+    field.setValidator(&validator);
+    field.setText(fromAscii("auto"));
+    validator.m_sWord = "auto";
+    focus(field);
+
+    support::typeText(&field, "x");
+
+    EXPECT_EQ(ascii(field.text()), "auto");
 }
 
 TEST(LineEditTest, UnfinishedExponentMayBeConfirmed) {

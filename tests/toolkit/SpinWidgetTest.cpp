@@ -262,6 +262,18 @@ TEST_F(SpinWidget, DisablingTheWidgetKeepsTheFlags) {
     EXPECT_TRUE(m_spin.isDownEnabled());
 }
 
+TEST_F(SpinWidget, ButtonDisabledWithTheMouseElsewhereStaysTheOneHeld) {
+    support::mousePress(&m_spin, up());
+    support::mouseMove(&m_spin, elsewhere());
+    m_spin.setUpEnabled(false);
+    m_spin.setUpEnabled(true);
+    m_recorder.take();
+
+    support::mousePress(&m_spin, up()); // no release has come: no further step
+
+    EXPECT_EQ(m_recorder.take(), Lines());
+}
+
 TEST_F(SpinWidget, FlagChangedWhileDisabledClearsBothAndEnablingRestoresNothing) {
     m_spin.setEnabled(false);
 

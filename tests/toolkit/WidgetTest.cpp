@@ -331,3 +331,30 @@ TEST(WidgetCopyTest, AssignmentToItselfChangesNothing) {
     same = *original.widget;
     expectTakenOver(same);
 }
+
+TEST(WidgetCopyTest, TakingOverTheEnabledStateReachesSetEnabledForAChange) {
+    CTalkingWidget target;
+    qt3::Widget source;
+    qt3::takeOver(&target, &source);
+    EXPECT_EQ(takeCalls(target), Lines());
+
+    source.setEnabled(false);
+    qt3::takeOver(&target, &source);
+
+    EXPECT_EQ(takeCalls(target), (Lines{"enabledChange(true)", "setEnabled(false)"}));
+}
+
+TEST(WidgetCopyTest, TakingOverTheEnabledStateInADisabledParentReachesNothingYet) {
+    QWidget parent;
+    CTalkingWidget target(&parent);
+    qt3::Widget source;
+    source.setEnabled(false);
+    parent.setEnabled(false);
+    takeCalls(target);
+
+    qt3::takeOver(&target, &source);
+    parent.setEnabled(true);
+
+    EXPECT_EQ(takeCalls(target), Lines());
+    EXPECT_FALSE(target.isEnabled());
+}

@@ -11,6 +11,17 @@ public:
     static void clear(QWidget* widget, WState state) { (widget->*(&State::clearWState))(state); }
 };
 
+// An override is for changes that show: not for the same state, nor for one that waits for the parent.
+void takeOverEnabled(QWidget* target, bool bEnabled) {
+    const QWidget* const parent = target->parentWidget();
+    if (target->isEnabledTo(target->parentWidget()) == bEnabled)
+        return;
+    if (parent && !parent->isEnabled())
+        target->QWidget::setEnabled(bEnabled);
+    else
+        target->setEnabled(bEnabled);
+}
+
 } // namespace
 
 std::string name(const QObject* object) {
@@ -57,7 +68,7 @@ void takeOver(QWidget* target, const QWidget* source) {
     else
         target->unsetFont();
     target->setCaption(source->caption());
-    target->setEnabled(source->isEnabledTo(source->parentWidget()));
+    takeOverEnabled(target, source->isEnabledTo(source->parentWidget()));
 }
 
 } // namespace qt3

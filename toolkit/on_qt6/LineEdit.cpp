@@ -19,6 +19,14 @@ void takeOverField(QLineEdit* target, const QLineEdit* source) {
     target->setText(source->text());
 }
 
+bool isEdit(const QKeyEvent* event) {
+    const int key = event->key();
+    const QString typed = event->text();
+    return key == Qt::Key_Backspace || key == Qt::Key_Delete ||
+           event->matches(QKeySequence::Paste) || event->matches(QKeySequence::Cut) ||
+           (!typed.isEmpty() && typed.at(0).isPrint());
+}
+
 } // namespace
 
 LineEdit::LineEdit(QWidget* parent, const char* name) : Bridged<QLineEdit>(name, parent) {}
@@ -49,11 +57,8 @@ void LineEdit::setSelection(int start, int length) {
 }
 
 void LineEdit::keyPressEvent(QKeyEvent* event) {
-    const bool bTypesText =
-        !event->text().isEmpty() && event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter;
-    const bool bDeletes = event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
-    if ((bTypesText || bDeletes) && isRejected())
-        keyPressOverRejected(event);
+    if (validator() && isEdit(event))
+        edit(event);
     else
         Bridged<QLineEdit>::keyPressEvent(event);
 }
@@ -64,18 +69,33 @@ bool LineEdit::isRejected() const {
     return validator() && validator()->validate(copy, position) == QValidator::Invalid;
 }
 
-void LineEdit::keyPressOverRejected(QKeyEvent* event) {
-    const QString before = text();
-    const int position = cursorPosition();
+// The toolkit itself refuses only what follows a text that it has seen to be valid. But a validator
+// may have changed its mind since, and a text that was set is not asked about.
+void LineEdit::edit(QKeyEvent* event) {
+    const StEditing before = {text(), cursorPosition(), selectionStart(), selectedText()};
+    bool bEdited = false;
     {
         const QSignalBlocker silence(this); // nobody hears of an edit that is undone
         Bridged<QLineEdit>::keyPressEvent(event);
-        if (text() != before && isRejected()) {
-            QLineEdit::setText(before);
-            setCursorPosition(position);
+        // A selection may have been replaced by the same text.
+        bEdited = text() != before.sText || (before.nStart >= 0 && !hasSelectedText());
+        if (bEdited && isRejected()) {
+            bEdited = false;
+            QLineEdit::setText(before.sText);
+            setCursorPosition(before.nCursor);
         }
+        if (!bEdited && !isReadOnly())
+            deselect();
     }
-    if (text() == before)
+    tellChanges(before, bEdited);
+}
+
+void LineEdit::tellChanges(const StEditing& before, bool bEdited) {
+    if (selectionStart() != before.nStart || selectedText() != before.sSelected)
+        emit selectionChanged();
+    if (cursorPosition() != before.nCursor)
+        emit cursorPositionChanged(before.nCursor, cursorPosition());
+    if (!bEdited)
         return;
     emit textEdited(text());
     emit textChanged(text());

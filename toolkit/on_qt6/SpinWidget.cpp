@@ -62,7 +62,8 @@ void SpinWidget::setButtonEnabled(bool* flag, bool on) {
     *flag = on;
     if (!isEnabled())
         m_bUpEnabled = m_bDownEnabled = false;
-    if ((m_eHeld == Up && !m_bUpEnabled) || (m_eHeld == Down && !m_bDownEnabled))
+    const bool bHeldEnabled = m_eHeld == Up ? m_bUpEnabled : m_bDownEnabled;
+    if (m_bOnHeld && !bHeldEnabled)
         letGo();
     update();
 }

@@ -24,13 +24,21 @@ public:
     virtual void setSelection(int start, int length);
 
 protected:
-    /// A key that leaves a text which the validator rejects is undone, also when the text was
-    /// already rejected before.
+    /// A key that leaves a text which the validator rejects is undone, whatever it thought of the
+    /// text before. The selection that it would have replaced is dropped.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    struct StEditing {
+        QString sText;
+        int nCursor;
+        int nStart; ///< Of the selection; -1 if there is none.
+        QString sSelected;
+    };
+
     bool isRejected() const;
-    void keyPressOverRejected(QKeyEvent* event);
+    void edit(QKeyEvent* event);
+    void tellChanges(const StEditing& before, bool bEdited);
 };
 
 } // namespace qt3
