@@ -1,0 +1,72 @@
+#include "Cases.h"
+
+#include "Digest.h"
+#include "subjects/Subjects.h"
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+#include <unistd.h>
+
+namespace differential {
+
+namespace {
+
+const unsigned c_nPatience = 120; // seconds for one case, on a busy machine and with sanitizers
+std::string s_presentCase;
+
+void tellWhichCaseHangs(int) {
+    std::fprintf(stderr, "No end after %u seconds: %s\n", c_nPatience, s_presentCase.c_str());
+    std::abort();
+}
+
+std::unique_ptr<Subject> subjectOf(Stage& stage, const std::string& className, bool rubbish) {
+    for (const SubjectKind& kind : subjectKinds()) {
+        if (kind.className == className)
+            return kind.make(stage, Taste(rubbish));
+    }
+    throw std::runtime_error("there is no class '" + className + "'");
+}
+
+} // namespace
+
+std::uint64_t casesOf(std::uint64_t operations) {
+    return (operations + c_nCaseLength - 1) / c_nCaseLength;
+}
+
+Cases::Cases(Stage& stage, const std::string& className, std::uint64_t seed, bool rubbish)
+    : m_sClassName(className), m_nSeed(seed), m_pSubject(subjectOf(stage, className, rubbish)) {
+    std::signal(SIGALRM, tellWhichCaseHangs);
+}
+
+Operations Cases::operations(std::uint64_t index) const {
+    Random random(mixedSeed(m_nSeed, m_sClassName, index));
+    return m_pSubject->randomCase(random, c_nCaseLength);
+}
+
+support::Lines Cases::run(const Operations& operations) {
+    s_presentCase = m_sClassName;
+    for (const Operation& operation : operations)
+        s_presentCase += '\n' + operation.line();
+    alarm(c_nPatience);
+    const support::Lines lines = m_pSubject->run(operations);
+    alarm(0);
+    return lines;
+}
+
+bool isBroken(const std::string& line) {
+    return line.rfind(Subject::c_broken, 0) == 0;
+}
+
+std::string verdictOn(const support::Lines& log) {
+    Digest digest;
+    for (const std::string& line : log) {
+        if (isBroken(line))
+            return line;
+        digest.add(line);
+    }
+    return digest.text();
+}
+
+} // namespace differential

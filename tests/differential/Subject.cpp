@@ -1,0 +1,88 @@
+#include "Subject.h"
+
+namespace differential {
+
+namespace {
+
+const char c_beginning[] = "make";
+
+Operation randomOperation(const std::string& name, const std::vector<Source>& sources,
+                          Random& random) {
+    std::vector<Argument> arguments;
+    for (const Source& source : sources)
+        arguments.push_back(source(random));
+    return Operation(name, arguments);
+}
+
+} // namespace
+
+Subject::Subject(Stage& stage, const Taste& taste) : m_stage(stage), m_taste(taste) {}
+
+Subject::~Subject() = default;
+
+void Subject::beginning(const std::vector<Source>& arguments) {
+    m_vBeginning = arguments;
+}
+
+void Subject::action(const std::string& name, int weight, const std::vector<Source>& arguments,
+                     Performance performance) {
+    m_vActions.push_back({name, weight, arguments, std::move(performance)});
+    m_nWeights += weight;
+}
+
+const Subject::Action& Subject::randomAction(Random& random) const {
+    long long left = random.number(0, m_nWeights - 1);
+    for (const Action& candidate : m_vActions) {
+        if (left < candidate.weight)
+            return candidate;
+        left -= candidate.weight;
+    }
+    return m_vActions.back();
+}
+
+const Subject::Action* Subject::find(const std::string& name) const {
+    for (const Action& candidate : m_vActions) {
+        if (candidate.name == name)
+            return &candidate;
+    }
+    return nullptr;
+}
+
+Operations Subject::randomCase(Random& random, int length) const {
+    Operations operations = {randomOperation(c_beginning, m_vBeginning, random)};
+    while (static_cast<int>(operations.size()) < length) {
+        const Action& chosen = randomAction(random);
+        operations.push_back(randomOperation(chosen.name, chosen.arguments, random));
+    }
+    return operations;
+}
+
+support::Lines Subject::run(const Operations& operations) {
+    support::Lines log;
+    const bool begins = !operations.empty() && operations.front().name() == c_beginning;
+    m_stage.set();
+    make(begins ? operations.front() : Operation(c_beginning));
+    for (const Operation& operation : operations)
+        perform(operation, log);
+    unmake();
+    m_stage.clear();
+    return log;
+}
+
+void Subject::perform(const Operation& operation, support::Lines& log) {
+    log.push_back(operation.line());
+    if (const Action* const known = find(operation.name()))
+        known->performance(operation);
+    Stage::settle();
+    const support::Lines said = m_stage.recorder().take();
+    for (const std::string& line : said)
+        log.push_back("  " + line);
+    log.push_back("= " + state());
+    const std::string broken = brokenPromise();
+    if (!broken.empty())
+        log.push_back(c_broken + broken);
+    if (said.size() > mostLines(operation))
+        log.push_back(c_broken + std::to_string(said.size()) + " lines of one operation");
+}
+
+} // namespace differential

@@ -1,0 +1,217 @@
+#include "WidgetSubject.h"
+
+#include <cctype>
+#include <map>
+#include <qt3/SignalTap.h>
+
+namespace differential {
+
+namespace {
+
+using support::Button;
+using support::Modifier;
+
+struct Key {
+    int code;
+    std::string text; ///< What it types without a modifier.
+};
+
+Key keyOf(const std::string& name) {
+    static const std::map<std::string, Key> keys = {{"Up", {Qt::Key_Up, ""}},
+                                                    {"Down", {Qt::Key_Down, ""}},
+                                                    {"Left", {Qt::Key_Left, ""}},
+                                                    {"Right", {Qt::Key_Right, ""}},
+                                                    {"Home", {Qt::Key_Home, ""}},
+                                                    {"End", {Qt::Key_End, ""}},
+                                                    {"Page Up", {Qt::Key_PageUp, ""}},
+                                                    {"Page Down", {Qt::Key_PageDown, ""}},
+                                                    {"Return", {Qt::Key_Return, "\r"}},
+                                                    {"Enter", {Qt::Key_Enter, "\r"}},
+                                                    {"Escape", {Qt::Key_Escape, "\x1b"}},
+                                                    {"Tab", {Qt::Key_Tab, "\t"}},
+                                                    {"Backtab", {Qt::Key_Backtab, ""}},
+                                                    {"Backspace", {Qt::Key_Backspace, "\b"}},
+                                                    {"Delete", {Qt::Key_Delete, "\x7f"}},
+                                                    {"Insert", {Qt::Key_Insert, ""}},
+                                                    {"F1", {Qt::Key_F1, ""}},
+                                                    {"Shift", {Qt::Key_Shift, ""}}};
+    const auto found = keys.find(name);
+    if (found != keys.end())
+        return found->second;
+    const unsigned char typed = name.empty() ? ' ' : static_cast<unsigned char>(name[0]);
+    return {typed < 128 ? std::toupper(typed) : typed, std::string(1, static_cast<char>(typed))};
+}
+
+// Control turns a letter into a control character.
+std::string typedText(const Key& key, Modifier modifier) {
+    if (modifier == Modifier::Control && key.text.size() == 1 && std::isalpha(key.text[0]))
+        return std::string(1, static_cast<char>(std::toupper(key.text[0]) - '@'));
+    return key.text;
+}
+
+Modifier modifierOf(int number) {
+    const Modifier modifiers[] = {Modifier::None, Modifier::Shift, Modifier::Control,
+                                  Modifier::Alt};
+    return modifiers[number & 3];
+}
+
+Button buttonOf(int number) {
+    const Button buttons[] = {Button::None, Button::Left, Button::Middle, Button::Right};
+    return buttons[number & 3];
+}
+
+const int c_nLeft = 1;
+
+void setShown(QWidget* widget, bool shown) {
+    if (shown)
+        widget->show();
+    else if (widget->isVisible()) // hiding what is hidden tells Qt 6's widgets once more
+        widget->hide();
+}
+
+} // namespace
+
+std::string shown(bool flag) {
+    return flag ? "true" : "false";
+}
+
+std::string shown(int number) {
+    return std::to_string(number);
+}
+
+std::string shown(double number) {
+    return exactText(number);
+}
+
+std::string shown(const QString& text) {
+    return quoted(support::text(text));
+}
+
+void WidgetSubject::target(QWidget* widget, const std::string& label) {
+    m_vTargets.emplace_back(widget);
+    m_stage.name(widget, label);
+}
+
+QWidget* WidgetSubject::targetOf(const Operation& operation, std::size_t index) {
+    if (m_vTargets.empty())
+        return nullptr;
+    const std::size_t which = static_cast<unsigned>(operation.integer(index)) % m_vTargets.size();
+    return m_vTargets[which];
+}
+
+QPoint WidgetSubject::pointOf(const Operation& operation, const QWidget* target) const {
+    return QPoint(target->width() * operation.integer(1) / 1000,
+                  target->height() * operation.integer(2) / 1000);
+}
+
+void WidgetSubject::addWidgetActions() {
+    const Source which = Taste::index(0, 5);
+    const auto show = [this](QWidget* chosen, bool on) {
+        if (chosen)
+            m_stage.withFocusRescued([=] { setShown(chosen, on); });
+    };
+    action("enable", 2, {Taste::flag(70)}, [=](const Operation& operation) {
+        if (widget())
+            m_stage.withFocusRescued([&] { setEnabled(operation.flag(0)); });
+    });
+    action("enablePlace", 1, {Taste::flag(80)}, [=](const Operation& operation) {
+        if (QWidget* const place = m_stage.place())
+            m_stage.withFocusRescued([&] { place->setEnabled(operation.flag(0)); });
+    });
+    action("show", 1, {Taste::flag(75)},
+           [=](const Operation& operation) { show(widget(), operation.flag(0)); });
+    action("showPlace", 1, {Taste::flag(85)},
+           [=](const Operation& operation) { show(m_stage.place(), operation.flag(0)); });
+    const bool tiny = m_taste.isRubbish();
+    action("resize", 1, {Taste::index(tiny ? 0 : 120, 300), Taste::index(tiny ? 0 : 24, 40)},
+           [this](const Operation& operation) {
+               if (widget() && (widget()->isVisible() || m_taste.isRubbish()))
+                   widget()->resize(operation.integer(0), operation.integer(1));
+           });
+    action("focus", 4, {which}, [this](const Operation& operation) {
+        if (QWidget* const chosen = targetOf(operation))
+            chosen->setFocus();
+    });
+    action("focusBefore", 1, {}, [this](const Operation&) {
+        if (m_stage.before())
+            m_stage.before()->setFocus();
+    });
+}
+
+void WidgetSubject::addMouseActions() {
+    const Source which = Taste::index(0, 5);
+    const Source along = Taste::index(-200, 1200);
+    const Source button = Taste::among({c_nLeft, c_nLeft, c_nLeft, c_nLeft, 2, 3});
+    const Source modifier = Taste::among({0, 0, 0, 0, 1, 2, 3});
+    const std::vector<Source> all = {which, along, along, button, modifier};
+    const auto mouse = [this](auto send) {
+        return [this, send](const Operation& operation) {
+            if (QWidget* const chosen = targetOf(operation))
+                send(chosen, pointOf(operation, chosen), buttonOf(operation.integer(3)),
+                     modifierOf(operation.integer(4)));
+        };
+    };
+    action("press", 4, all, mouse(support::mousePress));
+    action("move", 8, all, mouse(support::mouseMove));
+    action("release", 4, all, mouse(support::mouseRelease));
+    action("doubleClick", 1, all, mouse(support::mouseDoubleClick));
+}
+
+void WidgetSubject::addKeyActions(const std::vector<std::string>& keys) {
+    action("key", 10, {Taste::amongTexts(keys), Taste::among({0, 0, 0, 0, 0, 0, 1})},
+           [this](const Operation& operation) {
+               typeKey(operation.text(0), modifierOf(operation.integer(1)));
+           });
+}
+
+void WidgetSubject::typeKey(const std::string& name, Modifier modifier) {
+    if (name == "Delete" || name == "Insert")
+        modifier = Modifier::None;
+    QWidget* const focused = m_stage.focusWidget();
+    const std::string who = m_stage.focus();
+    if (!focused || who == "before" || who == "behind")
+        return;
+    const Key key = keyOf(name);
+    support::sendKey(focused, key.code, modifier, typedText(key, modifier).c_str());
+}
+
+void WidgetSubject::addWheelActions() {
+    const Source delta =
+        Taste::among({120, -120, 240, -240, 60, -60, 119, -119, 30, 0, 121, 360, -600});
+    action("wheel", 3, {Taste::index(0, 5), delta, Taste::among({0, 0, 0, 1, 2})},
+           [this](const Operation& operation) {
+               if (QWidget* const chosen = targetOf(operation))
+                   support::wheel(chosen, operation.integer(1), modifierOf(operation.integer(2)));
+           });
+}
+
+std::string WidgetSubject::rectText(const QRect& rect) {
+    return std::to_string(rect.x()) + ',' + std::to_string(rect.y()) + ' ' +
+           std::to_string(rect.width()) + 'x' + std::to_string(rect.height());
+}
+
+std::string WidgetSubject::widgetState() {
+    std::string state = "focus " + m_stage.focus();
+    if (!widget())
+        return state + ", gone";
+    state += ", " + rectText(widget()->geometry());
+    state += widget()->isEnabled() ? "" : ", disabled";
+    return state + (widget()->isVisible() ? "" : ", hidden");
+}
+
+std::string WidgetSubject::fieldState(const QLineEdit* field) {
+    if (!field)
+        return "no field";
+    std::string state = shown(field->text()) + '@' + shown(field->cursorPosition());
+    if (field->hasSelectedText())
+        state += " selected " + shown(field->selectionStart()) + ' ' + shown(field->selectedText());
+    return state;
+}
+
+std::vector<std::string> commonKeys() {
+    return {"Up",        "Up",        "Down",      "Down",   "Left",   "Right", "Home",   "End",
+            "Tab",       "Tab",       "Backtab",   "Return", "Return", "Enter", "Escape", "Page Up",
+            "Page Down", "Backspace", "Backspace", "Delete", "Insert", "F1",    "Shift"};
+}
+
+} // namespace differential
