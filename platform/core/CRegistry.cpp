@@ -30,16 +30,21 @@ public:
 
     const std::string& FilePath() const { return m_file.Path(); }
 
+    const Entries& Known() const noexcept { return m_mapEntries; }
+
     const Entries& Current() {
         RegistryText::Settings found;
         if (m_file.Load(found)) {
             applyChanges(m_mapUnsaved, found);
             adopt(std::move(found));
+            m_file.Keep();
         }
         return m_mapEntries;
     }
 
     void Store(const CValue_Key& key, std::unique_ptr<CValue> value) {
+        Current();
+        takeBack(value.get());
         m_replaced.clear();
         const std::optional<RegistryText::Scalar> scalar = RegistryText::scalarOf(*value);
         m_mapEntries[key] = std::move(value);
@@ -100,6 +105,14 @@ private:
         m_mapEntries.erase(entry);
     }
 
+    /// The caller gives a value whose entry another process has replaced meanwhile: it has one owner.
+    void takeBack(const CValue* value) {
+        for (std::unique_ptr<CValue>& replaced : m_replaced) {
+            if (replaced.get() == value)
+                static_cast<void>(replaced.release());
+        }
+    }
+
     RegistryFile m_file;
     Entries m_mapEntries;
     RegistryText::Settings m_mapSettings;
@@ -133,6 +146,10 @@ const std::string& CRegistry::FilePath() const {
 
 const CValueContainerBase::Entries& CRegistry::CurrentEntries() const {
     return m_pContents->Current();
+}
+
+const CValueContainerBase::Entries& CRegistry::KnownEntries() const noexcept {
+    return m_pContents->Known();
 }
 
 void CRegistry::StoreEntry(const CValue_Key& key, std::unique_ptr<CValue> value) {

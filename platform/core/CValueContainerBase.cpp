@@ -11,20 +11,24 @@ namespace TEVU {
 CValueContainerBase::CValueContainerBase() = default;
 
 CValueContainerBase::CValueContainerBase(const CValueContainerBase& other) : CValue(other) {
-    for (const auto& [key, value] : other.CurrentEntries())
-        m_mapEntries.emplace(key, value->Clone());
+    m_mapEntries = copyOf(other.CurrentEntries());
 }
 
 CValueContainerBase& CValueContainerBase::operator=(const CValueContainerBase& other) {
     // Copied before anything is deleted: the other may be this one, or one of its entries.
-    Entries copies;
-    for (const auto& [key, value] : other.CurrentEntries())
-        copies.emplace(key, value->Clone());
+    Entries copies = copyOf(other.CurrentEntries());
     m_mapEntries.swap(copies);
     return *this;
 }
 
 CValueContainerBase::~CValueContainerBase() = default;
+
+CValueContainerBase::Entries CValueContainerBase::copyOf(const Entries& entries) {
+    Entries copies;
+    for (const auto& [key, value] : entries)
+        copies.emplace(key, std::unique_ptr<CValue>(value->Clone()));
+    return copies;
+}
 
 bool CValueContainerBase::HasEntry(const CValue_Key& key) const {
     return find(key) != nullptr;
@@ -44,9 +48,13 @@ const CValue* CValueContainerBase::Entry(const CValue_Key& key, bool throwIfMiss
 }
 
 void CValueContainerBase::SetEntry(const CValue_Key& key, CValue* owned) {
-    if (!owned)
+    if (!owned) {
         RemoveEntry(key);
-    else if (find(key) != owned)
+        return;
+    }
+    const Entries& entries = KnownEntries();
+    const auto entry = entries.find(key);
+    if (entry == entries.end() || entry->second.get() != owned)
         StoreEntry(key, std::unique_ptr<CValue>(owned));
 }
 
@@ -97,6 +105,10 @@ std::vector<CValue_Key> CValueContainerBase::Keys() const {
 }
 
 const CValueContainerBase::Entries& CValueContainerBase::CurrentEntries() const {
+    return m_mapEntries;
+}
+
+const CValueContainerBase::Entries& CValueContainerBase::KnownEntries() const noexcept {
     return m_mapEntries;
 }
 

@@ -33,10 +33,14 @@ public:
     explicit Descriptor(int descriptor) : m_nDescriptor(descriptor) {}
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
+    ~Descriptor() { Take(-1); }
+
+    void Take(int descriptor) {
         if (m_nDescriptor >= 0)
             ::close(m_nDescriptor);
+        m_nDescriptor = descriptor;
     }
+
     operator int() const { return m_nDescriptor; }
 
 private:
@@ -194,14 +198,13 @@ std::string configurationFolder() {
 }
 
 struct Lock::StHandle {
-    explicit StHandle(int opened) : descriptor(opened) {}
-    Descriptor descriptor;
+    Descriptor descriptor{-1};
 };
 
-Lock::Lock(const std::string& path)
-    : m_pHandle(std::make_unique<StHandle>(
-          // Open for reading is enough for a lock, and works on one that another user has made.
-          ::open(path.c_str(), O_RDONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666))) {
+Lock::Lock(const std::string& path) : m_pHandle(std::make_unique<StHandle>()) {
+    // Open for reading is enough for a lock, and works on one that another user has made.
+    m_pHandle->descriptor.Take(
+        ::open(path.c_str(), O_RDONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666));
     if (m_pHandle->descriptor < 0 || !lock(m_pHandle->descriptor, LOCK_EX))
         fail("Lock", path, errno);
 }
@@ -209,19 +212,20 @@ Lock::Lock(const std::string& path)
 Lock::~Lock() = default;
 
 struct NewFile::StHandle {
-    explicit StHandle(int opened) : descriptor(opened) {}
-    Descriptor descriptor;
+    Descriptor descriptor{-1};
     struct stat status = {}; ///< The owner and the permissions that the file gets at the end.
 };
 
-NewFile::NewFile(const std::string& target) : m_sTarget(target) {
+// Whatever can run out of memory comes before the file is made: a constructor cleans nothing up.
+NewFile::NewFile(const std::string& target)
+    : m_sTarget(target), m_pHandle(std::make_unique<StHandle>()) {
     struct stat old = {};
     const bool replaces = ::stat(target.c_str(), &old) == 0;
     if (replaces && !S_ISREG(old.st_mode))
         throw CException("NewFile", target + ": is no ordinary file");
     do {
         m_sPath = newFileName(target);
-        m_pHandle = std::make_unique<StHandle>(
+        m_pHandle->descriptor.Take(
             ::open(m_sPath.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
         if (m_pHandle->descriptor < 0)
             fail("NewFile", target, errno);

@@ -48,11 +48,13 @@ RegistryFile::RegistryFile(const std::string& path) : m_sPath(path) {}
 
 bool RegistryFile::Load(RegistryText::Settings& settings) {
     const std::string version = m_sPath.empty() ? "" : FileSystem::versionOf(m_sPath);
-    if (m_bLooked && version == m_sVersion)
+    if (m_bKept && version == m_sVersion)
         return false;
-    m_bLooked = true;
+    m_bKept = false;
     m_sVersion = version;
-    return loadOrKeepAside(settings);
+    const bool found = loadOrKeepAside(settings);
+    m_bKept = !found; // nothing to take over, until the file is another one
+    return found;
 }
 
 bool RegistryFile::loadOrKeepAside(RegistryText::Settings& settings) {

@@ -20,10 +20,13 @@ public:
 
     const std::string& Path() const { return m_sPath; }
 
-    /// Reads the file into \a settings when it is not the one of the last look; else, or when
-    /// nothing can be told about it now, false. A file that is no registry is kept aside: no
+    /// Reads the file into \a settings when it is not the one of the last look that was kept; else,
+    /// or when nothing can be told about it now, false. A file that is no registry is kept aside: no
     /// settings.
     bool Load(RegistryText::Settings& settings);
+
+    /// What the last look read has been taken over. Until then every look reads again.
+    void Keep() { m_bKept = true; }
 
     /// Puts \a changes into the file as it is now, and all that it then holds into \a settings.
     /// False when that fails: the file and \a settings stay.
@@ -36,7 +39,7 @@ private:
     void keepAside(const std::string& reason) const;
 
     std::string m_sPath;
-    bool m_bLooked = false;
+    bool m_bKept = false;
     std::string m_sVersion;              ///< Of the file at the last look.
     std::shared_ptr<const void> m_pHold; ///< Keeps m_sVersion from being used for another file.
 };

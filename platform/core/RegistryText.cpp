@@ -184,10 +184,14 @@ bool areSame(const Scalar& a, const Scalar& b) {
 }
 
 std::string write(const Settings& settings) {
-    json root = json::object();
+    // No tree of the whole: taking one down needs memory, and without it the process ends.
+    std::map<std::string, std::string> values;
     for (const auto& [key, scalar] : settings)
-        root[textOf(key)] = jsonOf(scalar);
-    return root.dump(4) + "\n";
+        values[json(textOf(key)).dump()] = jsonOf(scalar).dump();
+    std::string text;
+    for (const auto& [key, value] : values)
+        text += (text.empty() ? "\n    " : ",\n    ") + key + ": " + value;
+    return "{" + (text.empty() ? text : text + "\n") + "}\n";
 }
 
 Settings read(const std::string& text) {

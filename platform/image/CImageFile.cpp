@@ -282,7 +282,7 @@ void setStrips(const CTiffFile& file, const StLayout& layout, std::uint64_t begi
 void writeTiff(const CImage& image, const std::string& path) {
     const StLayout layout(image);
     const StTiffHeader header = tiffHeaderOf(image, layout.m_nPages);
-    const CTiffFile file(path, needsBigTiff(image, layout, header) ? "w8" : "w");
+    CTiffFile file(path, needsBigTiff(image, layout, header) ? "w8" : "w");
     const std::uint64_t begin = writePixels(file, image);
     for (std::uint32_t page = 0; page < layout.m_nPages; ++page) {
         setPixelTags(file, layout, image.Type());
@@ -294,6 +294,7 @@ void writeTiff(const CImage& image, const std::string& path) {
         setStrips(file, layout, begin + page * (image.ByteCount() / layout.m_nPages));
         file.Check(TIFFWriteDirectory(file), "a page cannot be written");
     }
+    file.Finish();
 }
 
 /// The new file will take the place of the old one, which its write protection would not prevent.

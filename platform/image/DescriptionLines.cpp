@@ -47,6 +47,7 @@ std::optional<double> metres(const std::string& name) {
 /// The same in every locale, unlike what the C library offers.
 std::optional<double> number(const std::string& text) {
     std::istringstream stream(text);
+    stream.exceptions(std::ios::badbit); // else no memory reads as no number
     stream.imbue(std::locale::classic());
     double value = 0;
     if (!(stream >> value) || !std::isfinite(value))
@@ -61,6 +62,7 @@ unsigned count(const std::string& text) {
 
 std::string decimal(double number) {
     std::ostringstream stream;
+    stream.exceptions(std::ios::badbit); // else no memory cuts the text off
     stream.imbue(std::locale::classic());
     stream.precision(15);
     stream << number;

@@ -2,8 +2,11 @@
 
 #include <ruqlib2core/CException.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
 
 namespace TEVU {
 
@@ -15,16 +18,17 @@ std::string formatted(const char* format, va_list arguments) {
     return text;
 }
 
+CTiffFile* fileOf(thandle_t self) {
+    return static_cast<CTiffFile*>(self);
+}
+
 using Options = std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)>;
 
 } // namespace
 
 CTiffFile::CTiffFile(const std::string& path, const char* mode) : m_pTiff(nullptr) {
-    const Options options(TIFFOpenOptionsAlloc(), &TIFFOpenOptionsFree);
-    TIFFOpenOptionsSetErrorHandlerExtR(options.get(), &CTiffFile::noteError, this);
-    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), &CTiffFile::noteWarning, this);
-    m_pTiff = TIFFOpenExt(path.c_str(), mode, options.get());
-    Check(m_pTiff, "it cannot be opened");
+    openFile(path, mode);
+    openTiff(path, mode);
     try {
         if (mode[0] == 'r')
             checkDirectory();
@@ -36,6 +40,61 @@ CTiffFile::CTiffFile(const std::string& path, const char* mode) : m_pTiff(nullpt
 
 CTiffFile::~CTiffFile() {
     TIFFClose(m_pTiff);
+}
+
+void CTiffFile::openFile(const std::string& path, const char* mode) {
+    const auto how = mode[0] == 'r' ? std::ios::in : std::ios::in | std::ios::out | std::ios::trunc;
+    if (!m_file.open(std::filesystem::u8path(path), how | std::ios::binary))
+        throw CException("CTiffFile",
+                         "it cannot be opened: " + std::generic_category().message(errno));
+}
+
+void CTiffFile::openTiff(const std::string& path, const char* mode) {
+    const Options options(TIFFOpenOptionsAlloc(), &TIFFOpenOptionsFree);
+    TIFFOpenOptionsSetErrorHandlerExtR(options.get(), &CTiffFile::noteError, this);
+    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), &CTiffFile::noteWarning, this);
+    m_pTiff = TIFFClientOpenExt(path.c_str(), mode, this, &readBytes, &writeBytes, &seek, &keepOpen,
+                                &size, nullptr, nullptr, options.get());
+    Check(m_pTiff, "it cannot be opened");
+}
+
+tmsize_t CTiffFile::readBytes(thandle_t self, void* bytes, tmsize_t count) {
+    return fileOf(self)->m_file.sgetn(static_cast<char*>(bytes), count);
+}
+
+tmsize_t CTiffFile::writeBytes(thandle_t self, void* bytes, tmsize_t count) {
+    CTiffFile* const file = fileOf(self);
+    const tmsize_t written = file->m_file.sputn(static_cast<const char*>(bytes), count);
+    file->m_bFailed = file->m_bFailed || written != count;
+    return written;
+}
+
+toff_t CTiffFile::seek(thandle_t self, toff_t offset, int from) {
+    const auto direction =
+        from == SEEK_SET ? std::ios::beg : (from == SEEK_CUR ? std::ios::cur : std::ios::end);
+    return fileOf(self)->position(static_cast<std::int64_t>(offset), direction);
+}
+
+int CTiffFile::keepOpen(thandle_t) {
+    return 0; // m_file closes itself
+}
+
+toff_t CTiffFile::size(thandle_t self) {
+    CTiffFile* const file = fileOf(self);
+    const std::uint64_t here = file->position(0, std::ios::cur);
+    const std::uint64_t end = file->position(0, std::ios::end);
+    file->position(static_cast<std::int64_t>(here), std::ios::beg);
+    return end;
+}
+
+std::uint64_t CTiffFile::position(std::int64_t offset, std::ios::seekdir from) {
+    const std::streamoff reached = m_file.pubseekoff(offset, from);
+    m_bFailed = m_bFailed || reached < 0;
+    return static_cast<std::uint64_t>(reached);
+}
+
+void CTiffFile::Finish() {
+    Check(TIFFFlush(m_pTiff) && m_file.pubsync() == 0 && !m_bFailed, "it cannot be written");
 }
 
 std::uint64_t CTiffFile::ByteCount() const {

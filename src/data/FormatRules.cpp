@@ -12,6 +12,7 @@ namespace {
 double numberOf(const std::string& version) {
     std::istringstream stream(version);
     stream.imbue(std::locale::classic()); // whatever the application has made the global one
+    stream.exceptions(std::ios::badbit);  // else no memory reads as 0
     double number = 0.0;
     stream >> number;
     return number;

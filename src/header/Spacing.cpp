@@ -15,6 +15,7 @@ bool differ(double a, double b) {
 std::string spacingText(const StSpacing& spacing, unsigned int dimension) {
     std::ostringstream text;
     text.imbue(std::locale::classic()); // whatever the application has made the global one
+    text.exceptions(std::ios::badbit);  // else no memory cuts the text off
     text << '(' << spacing.dX;
     if (dimension > 1)
         text << ',' << spacing.dY;

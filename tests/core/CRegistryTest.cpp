@@ -225,6 +225,23 @@ TEST_F(CRegistryTest, PointerStaysValidWhenAnotherProcessReplacesTheEntry) {
     EXPECT_EQ(held->String(), "mine");
 }
 
+TEST_F(CRegistryTest, ValueWhoseEntryAnotherProcessHasReplacedMayBeGivenAgain) {
+    const auto outcome = inChild([] {
+        CRegistry& registry = CRegistry::Obj();
+        auto* const value = new CValueString("mine");
+        registry.SetEntry("key", value);
+        inChild([] { return setAndGet("theirs"); });
+        const std::string between = registry.GetString("key", "missing");
+        registry.SetEntry("key", value);
+        registry.SetEntry("other", new CValueString("x"));
+        return between + " " + registry.GetString("key", "missing") + " " + value->String();
+    });
+
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.output, "theirs mine mine");
+    EXPECT_EQ(std::get<std::string>(SettingsInFile().at("key")), "mine");
+}
+
 TEST_F(CRegistryTest, ChangeKeepsWhatAnotherProcessHasWrittenMeanwhile) {
     CRegistry::Obj().SetEntry("mine", new CValueLong(1));
     inChild([] { return setAndGet("other"); });

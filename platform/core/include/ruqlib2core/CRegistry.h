@@ -50,6 +50,7 @@ public:
 
 protected:
     const Entries& CurrentEntries() const override;
+    const Entries& KnownEntries() const noexcept override;
     void StoreEntry(const CValue_Key& key, std::unique_ptr<CValue> value) override;
     bool EraseEntry(const CValue_Key& key) override;
 

@@ -69,13 +69,15 @@ protected:
     CValueContainerBase(const CValueContainerBase& other);            ///< Deep.
     CValueContainerBase& operator=(const CValueContainerBase& other); ///< Deep; all or nothing.
 
-    /// The three ways to the entries, which everything public goes through. A container that keeps
+    /// The four ways to the entries, which everything public goes through. A container that keeps
     /// its entries elsewhere too overrides them and calls these.
     virtual const Entries& CurrentEntries() const;
+    virtual const Entries& KnownEntries() const noexcept; ///< Without a look at that other place.
     virtual void StoreEntry(const CValue_Key& key, std::unique_ptr<CValue> value); ///< Not null.
     virtual bool EraseEntry(const CValue_Key& key); ///< False when there was none.
 
 private:
+    static Entries copyOf(const Entries& entries);
     CValue* find(const CValue_Key& key) const;
     CValue* findOrThrow(const CValue_Key& key, bool throwIfMissing) const;
 
