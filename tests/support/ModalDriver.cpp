@@ -14,7 +14,7 @@ namespace support {
 
 namespace {
 
-const int c_interval = 10; // milliseconds
+const int c_interval = 1; // milliseconds
 const std::chrono::seconds c_patience(3);
 const int c_maxUnexpected = 20;
 

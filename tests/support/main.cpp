@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <qapplication.h>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -33,7 +34,11 @@ int main(int argc, char** argv) {
     alarm(c_patience);
     support::prepareDisplay();
     QApplication::setDesktopSettingsAware(false);
-    const QApplication application(argc, argv);
+    std::vector<char*> arguments(argv, argv + argc);
+    support::addDisplayOptions(arguments);
+    int count = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    const QApplication application(count, arguments.data());
     QApplication::setStyle("windows"); // set earlier, nobody would delete it
     return RUN_ALL_TESTS();
 }

@@ -17,4 +17,13 @@ void prepareDisplay() {
     }
 }
 
+// For each window, the input method has the display look through all its fonts: ten times the work of
+// the window itself. No test types through an input method.
+void addDisplayOptions(std::vector<char*>& arguments) {
+    static char s_noInputMethod[] = "-noxim";
+    arguments.push_back(s_noInputMethod);
+}
+
+void decodeIconsOnce() {} // they are part of the program
+
 } // namespace support
