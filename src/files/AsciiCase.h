@@ -5,6 +5,8 @@
 
 namespace TEVU {
 
+char lowerCase(char c); ///< By tolower.
+
 /// The text with each character changed by tolower or toupper: one to one, so that its length
 /// stays.
 std::string lowerCase(std::string text);

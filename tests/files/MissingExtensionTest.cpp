@@ -117,6 +117,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"FirstOfTheFirstList", "a", "A (*.png *.jpg);;B (*.tif)", ".png"},
         Row{"WithoutParentheses", "a.png", "*.png", ""},
         Row{"WithoutParenthesesMissing", "a", "*.png", ".png"},
+        Row{"WithoutParenthesesEndsAtOneBlank", "a.png ", "*.png", ".png"},
         Row{"PatternsWithoutParentheses", "a.tif", "*.png *.tif", ""},
         Row{"WithAParenthesisTooFew", "a", "Images (*.png", ".png"},
         Row{"CompoundEndsAtTheParenthesis", "a", "Surfaces (*.stl.gz)", ".stl.gz"},
