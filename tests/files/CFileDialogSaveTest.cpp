@@ -45,23 +45,6 @@ bool nativeDialogIsOff() {
 
 class CFileDialogSaveTest : public FileDialogTest {
 protected:
-    static FileRequest saveIn(const std::string& folder, const std::string& fileName) {
-        return {"savedialog", "Specify a filename...", folder, fileName, {}, "save"};
-    }
-
-    static Message wrongType(const std::string& extension) {
-        return {"Wrong filetype specified.",
-                "Append extension '" + extension + "'?",
-                {"Yes", "No", "Cancel"},
-                "Yes",
-                "Cancel"};
-    }
-
-    static Message existing(const std::string& word, const std::string& path) {
-        return {
-            word + " File", word + "\n'" + path + "'?", {"Yes", "No", "Cancel"}, "Yes", "Cancel"};
-    }
-
     static Message overwrite(const std::string& path) { return existing("Overwrite", path); }
 
     /// The folder of this test's own saving.

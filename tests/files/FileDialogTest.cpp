@@ -79,44 +79,11 @@ QString FileDialogTest::toText(const std::string& utf8) {
     return QString::fromUtf8(utf8.c_str());
 }
 
-support::FileRequest FileDialogTest::openIn(const std::string& folder) {
-    return {"opendialog", "Choose a file...", folder, "", {}, "open"};
-}
-
-support::FileRequest FileDialogTest::openSeveralIn(const std::string& folder) {
-    return {"opendialog", "Select one or more files...", folder, "", {}, "open several"};
-}
-
 void FileDialogTest::expectStartIn(const std::string& folder) {
     TEVU::CFileDialog dialog;
     user.expectFileDialog(openIn(folder)).cancel();
     EXPECT_FALSE(dialog.GetOpenFileName(allFiles, TEVU::CFileDialog::UseWorkingDir));
     user.finish();
-}
-
-support::Message FileDialogTest::unreadable(const std::string& path) {
-    return {"Unable to read file",
-            "Cannot read file. Please check permissions:\n" + path,
-            {"Cancel", "Retry"},
-            "Retry",
-            "Cancel"};
-}
-
-support::Message FileDialogTest::unwritable(const std::string& path) {
-    return {"Unable to write file",
-            "Cannot write file. Please check permissions:\n" + path,
-            {"Cancel", "Retry"},
-            "Retry",
-            "Cancel"};
-}
-
-support::Message FileDialogTest::notAscii(const std::string& path) {
-    return {"Not an ASCII filename",
-            "Not an ASCII filename, it contains special (unicode) characters.\n"
-            "Non-ASCII filenames are not supported (yet), please change the name of the file: " +
-                path,
-            {"OK"},
-            "OK"};
 }
 
 SecondProcess::SecondProcess(const std::function<std::vector<std::string>()>& task) {

@@ -1,6 +1,8 @@
 #ifndef RUQGUI_TESTS_FILES_FILEDIALOGTEST_H
 #define RUQGUI_TESTS_FILES_FILEDIALOGTEST_H
 
+#include "Boxes.h"
+
 #include <ModalDriver.h>
 #include <TempDir.h>
 #include <functional>
@@ -12,9 +14,16 @@
 /// A folder for this test alone: home, working folder and settings registry are in it, so that
 /// nothing is remembered at first. Boxes and dialogs are answered by \c user.
 class FileDialogTest : public testing::Test {
-protected:
+public:
     using Lines = std::vector<std::string>;
 
+    /// \a key is the last part, such as "loadingdir".
+    static void remember(const std::string& key, const std::string& text);
+
+    /// All entries as "loadingdir=/data", sorted; the common part of the keys is left out.
+    static Lines remembered();
+
+protected:
     FileDialogTest();
     ~FileDialogTest() override;
 
@@ -30,26 +39,13 @@ protected:
     /// The names in a folder, sorted.
     static Lines listOf(const std::string& folder);
 
-    /// \a key is the last part, such as "loadingdir".
-    static void remember(const std::string& key, const std::string& text);
-
     /// An entry that is no text.
     static void rememberNumber(const std::string& key);
 
-    /// All entries as "loadingdir=/data", sorted; the common part of the keys is left out.
-    static Lines remembered();
-
     static QString toText(const std::string& utf8);
-
-    static support::FileRequest openIn(const std::string& folder);
-    static support::FileRequest openSeveralIn(const std::string& folder);
 
     /// Asks for one file in the remembered directory: it must be that folder.
     void expectStartIn(const std::string& folder);
-
-    static support::Message unreadable(const std::string& path);
-    static support::Message unwritable(const std::string& path);
-    static support::Message notAscii(const std::string& path);
 
     const std::string allFiles = "All files (*)";
     const support::TempDir dir;
