@@ -6,6 +6,13 @@ const int c_nLabelWidth = 130;
 
 } // namespace
 
+qt3::GroupBox* boxIn(qt3::Widget* panel, const char* title) {
+    auto* layout = new qt3::VBoxLayout(panel, 0, 0);
+    auto* box = new qt3::GroupBox(title, panel);
+    layout->addWidget(box);
+    return box;
+}
+
 qt3::VBoxLayout* columnIn(qt3::GroupBox* box) {
     box->setColumnLayout(0, Qt::Vertical);
     box->layout()->setSpacing(6);
@@ -14,8 +21,9 @@ qt3::VBoxLayout* columnIn(qt3::GroupBox* box) {
     return column;
 }
 
-qt3::Label* addText(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text) {
-    auto* label = new qt3::Label(box);
+qt3::Label* addText(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text,
+                    const char* name) {
+    auto* label = new qt3::Label(box, name);
     label->setText(text);
     column->addWidget(label);
     return label;

@@ -6,13 +6,18 @@
 #include <qt3/Label.h>
 #include <qt3/Layout.h>
 #include <qt3/LineEdit.h>
+#include <qt3/Widget.h>
 
 // What the pages build their boxes from. All widgets belong to the box.
+
+/// A box that fills \a panel.
+qt3::GroupBox* boxIn(qt3::Widget* panel, const char* title);
 
 /// The column inside a box: its parts from top to bottom.
 qt3::VBoxLayout* columnIn(qt3::GroupBox* box);
 
-qt3::Label* addText(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text);
+qt3::Label* addText(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text,
+                    const char* name = nullptr);
 
 /// A field below its label.
 qt3::LineEdit* addField(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label,

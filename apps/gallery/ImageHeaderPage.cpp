@@ -1,6 +1,7 @@
 #include "ImageHeaderPage.h"
 
 #include "Form.h"
+#include "ImageText.h"
 #include "Options.h"
 #include "Preview.h"
 #include "SignalLog.h"
@@ -21,7 +22,6 @@ using TEVU::CImageFile;
 
 namespace {
 
-const char* const c_sFilter = "TIFF images (*.tif *.tiff);;All files (*.*)";
 const int c_nPreviewPixels = 256;
 
 } // namespace
@@ -47,7 +47,7 @@ QWidget* ImageHeaderPage::createFileRow() {
     auto* label = new qt3::Label(row, "fileLabel");
     label->setText("Image:");
     m_pFile =
-        new TEVU::CFileLineWidget("", c_sFilter, TEVU::CFileLineWidget::eOpenFile, row, "file");
+        new TEVU::CFileLineWidget("", c_sTiffFilter, TEVU::CFileLineWidget::eOpenFile, row, "file");
     connect(qt3::child<qt3::LineEdit>(m_pFile), SIGNAL(textChanged(const QString&)), this,
             SLOT(fileChanged(const QString&)));
     layout->addWidget(label);
@@ -138,7 +138,8 @@ void ImageHeaderPage::watchFields() {
 
 void ImageHeaderPage::open() {
     CFileDialog dialog(this);
-    if (dialog.GetOpenFileName(c_sFilter, CFileDialog::UseWorkingDir) && !load(dialog.FilePath()))
+    if (dialog.GetOpenFileName(c_sTiffFilter, CFileDialog::UseWorkingDir) &&
+        !load(dialog.FilePath()))
         complain("Unable to open image", qt3::ascii(m_pMessage->text()));
 }
 
@@ -156,7 +157,7 @@ void ImageHeaderPage::save() {
 
 void ImageHeaderPage::saveAs() {
     CFileDialog dialog(this);
-    if (dialog.GetSaveFileName(m_sPath, c_sFilter, CFileDialog::eOverwrite))
+    if (dialog.GetSaveFileName(m_sPath, c_sTiffFilter, CFileDialog::eOverwrite))
         saveTo(dialog.FilePath());
 }
 
@@ -188,7 +189,7 @@ void ImageHeaderPage::complain(const char* caption, const std::string& message) 
 
 QWidget* createImageHeaderPage(QWidget* parent, SignalLog& log, const Options& options) {
     auto* page = new ImageHeaderPage(parent, log);
-    if (!options.m_sImage.empty())
-        page->load(options.m_sImage);
+    if (!options.m_images.empty())
+        page->load(options.m_images.front());
     return page;
 }

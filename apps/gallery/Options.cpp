@@ -5,14 +5,22 @@
 
 namespace {
 
-std::string* destination(Options& options, const std::string& name) {
+/// False for an option that there is not.
+bool keep(const std::string& name, const std::string& value, Options& options) {
     if (name == "--image")
-        return &options.m_sImage;
-    if (name == "--page")
-        return &options.m_sPage;
-    if (name == "--screenshots")
-        return &options.m_sScreenshots;
-    return nullptr;
+        options.m_images.push_back(value);
+    else if (name == "--page")
+        options.m_sPage = value;
+    else if (name == "--screenshots")
+        options.m_sScreenshots = value;
+    else
+        return false;
+    return true;
+}
+
+bool isOption(const std::string& name) {
+    Options unused;
+    return keep(name, "", unused);
 }
 
 } // namespace
@@ -26,26 +34,27 @@ bool asksForHelp(const std::vector<std::string>& arguments) {
 Options parseOptions(const std::vector<std::string>& arguments) {
     Options options;
     for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
-        std::string* const value = destination(options, *argument);
-        if (!value)
-            throw std::runtime_error("Unknown option '" + *argument + "'. Try --help.");
         const std::string name = *argument;
+        if (!isOption(name))
+            throw std::runtime_error("Unknown option '" + name + "'. Try --help.");
         if (++argument == arguments.end() || argument->empty())
             throw std::runtime_error("Option '" + name + "' needs a value. Try --help.");
-        *value = *argument;
+        keep(name, *argument, options);
     }
     return options;
 }
 
 std::string usage(const std::vector<std::string>& pageTitles) {
-    std::string text = "Usage: gallery [--image FILE] [--page NAME] [--screenshots DIR] [--help]\n"
-                       "\n"
-                       "  --image FILE       open this TIFF file on the page \"Image header\"\n"
-                       "  --page NAME        show this page first\n"
-                       "  --screenshots DIR  write one PNG a page into DIR, then end\n"
-                       "  --help             print this and end\n"
-                       "\n"
-                       "Pages:";
+    std::string text =
+        "Usage: gallery [--image FILE]... [--page NAME] [--screenshots DIR] [--help]\n"
+        "\n"
+        "  --image FILE       open this TIFF file: the first one on the page\n"
+        "                     \"Image header\", all of them on the page \"Data\"\n"
+        "  --page NAME        show this page first\n"
+        "  --screenshots DIR  write one PNG a page into DIR, then end\n"
+        "  --help             print this and end\n"
+        "\n"
+        "Pages:";
     for (const std::string& title : pageTitles)
         text += " \"" + title + "\"";
     return text + "\n";

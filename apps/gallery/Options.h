@@ -6,7 +6,7 @@
 
 /// What the gallery was asked for on the command line.
 struct Options {
-    std::string m_sImage;       ///< TIFF file to open first; empty for the built-in sample.
+    std::vector<std::string> m_images; ///< TIFF files to open; none for the built-in samples.
     std::string m_sPage;        ///< Title of the page to show first; empty for the first one.
     std::string m_sScreenshots; ///< Folder for one picture a page; empty to open the window.
 };

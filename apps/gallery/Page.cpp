@@ -1,5 +1,6 @@
 #include "Page.h"
 
+#include "DataPage.h"
 #include "FilesPage.h"
 #include "ImageHeaderPage.h"
 #include "NumbersPage.h"
@@ -12,6 +13,7 @@ const std::vector<StPage>& pages() {
         {"Files", createFilesPage},
         {"Numbers", createNumbersPage},
         {"Sliders", createSlidersPage},
+        {"Data", createDataPage},
         {"Small widgets", createSmallWidgetsPage},
     };
     return all;

@@ -94,19 +94,6 @@ private:
     double m_dHigh = 1.0;
 };
 
-const char* typeName(const IImage::CType& type) {
-    using Type = IImage::CType;
-    if (type == Type::eUInt8)
-        return "8-bit";
-    if (type == Type::eUInt16)
-        return "16-bit";
-    if (type == Type::eInt16)
-        return "16-bit signed";
-    if (type == Type::eInt32)
-        return "32-bit signed";
-    return type == Type::eFloat32 ? "32-bit float" : "RGB";
-}
-
 void paintSpots(CImage& image) {
     const int width = image.Size()[0], height = image.Size()[1], depth = image.Size()[2];
     unsigned char* pixel = image.Data();
@@ -135,13 +122,6 @@ std::string previewOf(const CImage& image, int pixels) {
             page.AppendRgb(bytes, std::min(page.Width() - 1, static_cast<int>(x / scale)),
                            std::min(page.Height() - 1, static_cast<int>(y / scale)));
     return bytes;
-}
-
-std::string captionOf(const CImage& image) {
-    std::string text = std::to_string(image.Size()[0]);
-    for (unsigned int axis = 1; axis < image.Size().Dimension(); ++axis)
-        text += " x " + std::to_string(image.Size()[axis]);
-    return text + ", " + typeName(image.Type());
 }
 
 CImage sampleImage() {

@@ -11,9 +11,6 @@ class CImage;
 /// of a PPM file. Grey values are stretched from the smallest to the largest one of the page.
 std::string previewOf(const TEVU::CImage& image, int pixels);
 
-/// "96 x 96 x 9, UInt8": what the image is.
-std::string captionOf(const TEVU::CImage& image);
-
 /// A small stack of spots with spacing, creator, description and history, to play with.
 TEVU::CImage sampleImage();
 

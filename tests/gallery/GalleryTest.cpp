@@ -43,8 +43,10 @@ TEST_F(GalleryTest, AnUnknownPageIsAnErrorThatNamesIt) {
 TEST_F(GalleryTest, AScreenshotOfEachPageIsWritten) {
     EXPECT_EQ(Run("--screenshots '" + m_dir.path("new folder/shots") + "'"), 0) << Output();
 
-    for (const char* page : {"image-header", "files", "numbers", "sliders", "small-widgets"})
+    for (const char* page :
+         {"image-header", "files", "numbers", "sliders", "data", "small-widgets"})
         EXPECT_TRUE(IsPicture(std::string("new folder/shots/") + page + ".png")) << page;
+    EXPECT_EQ(Output().find("Invalid parameters"), std::string::npos) << Output(); // of painting
 }
 
 TEST_F(GalleryTest, AFileThatIsNoImageDoesNotKeepItFromOpening) {

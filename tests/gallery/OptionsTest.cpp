@@ -19,7 +19,7 @@ std::string complaintAbout(const std::vector<std::string>& arguments) {
 TEST(OptionsTest, NothingIsAskedForWithoutArguments) {
     const Options options = parseOptions({});
 
-    EXPECT_EQ(options.m_sImage, "");
+    EXPECT_TRUE(options.m_images.empty());
     EXPECT_EQ(options.m_sPage, "");
     EXPECT_EQ(options.m_sScreenshots, "");
 }
@@ -28,13 +28,18 @@ TEST(OptionsTest, EachOptionTakesTheArgumentBehindIt) {
     const Options options =
         parseOptions({"--page", "Files", "--image", "a b.tif", "--screenshots", "shots"});
 
-    EXPECT_EQ(options.m_sImage, "a b.tif");
+    EXPECT_EQ(options.m_images, std::vector<std::string>{"a b.tif"});
     EXPECT_EQ(options.m_sPage, "Files");
     EXPECT_EQ(options.m_sScreenshots, "shots");
 }
 
 TEST(OptionsTest, TheLastOneOfSeveralCounts) {
     EXPECT_EQ(parseOptions({"--page", "Files", "--page", "Sliders"}).m_sPage, "Sliders");
+}
+
+TEST(OptionsTest, SeveralImagesStayInTheirOrder) {
+    EXPECT_EQ(parseOptions({"--image", "b.tif", "--page", "Data", "--image", "a.tif"}).m_images,
+              (std::vector<std::string>{"b.tif", "a.tif"}));
 }
 
 TEST(OptionsTest, WhatIsUnknownIsNamed) {

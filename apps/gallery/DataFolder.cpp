@@ -1,0 +1,9 @@
+#include "DataFolder.h"
+
+#include <qfile.h>
+#include <qt3/Application.h>
+
+std::string dataFile(const std::string& name) {
+    const auto folder = QFile::encodeName(qApp->applicationDirPath());
+    return std::string(folder.data()) + "/" GALLERY_DATA_FROM_PROGRAM "/" + name;
+}

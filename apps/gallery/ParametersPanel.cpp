@@ -1,0 +1,62 @@
+#include "ParametersPanel.h"
+
+#include "Form.h"
+
+#include <exception>
+#include <qt3/PushButton.h>
+#include <qt3/Text.h>
+#include <sstream>
+
+using namespace TEVU;
+
+namespace {
+
+std::string textOf(const CValue& value) {
+    std::ostringstream text;
+    if (const auto* const flag = dynamic_cast<const CValueBool*>(&value))
+        text << (flag->Bool() ? "on" : "off");
+    else if (const auto* const whole = dynamic_cast<const CValueLong*>(&value))
+        text << whole->Long();
+    else if (const auto* const number = dynamic_cast<const CValueDouble*>(&value))
+        text << number->Double();
+    else if (const auto* const string = dynamic_cast<const CValueString*>(&value))
+        text << '"' << string->String() << '"';
+    return text.str();
+}
+
+/// A line for each value, with the keys that lead to it.
+std::string linesOf(const CValueContainerBase& container, const std::string& path) {
+    std::string lines;
+    for (const CValue_Key& key : container.Keys()) {
+        const CValue& value = *container.Entry(key, true);
+        const std::string place = path + key.String();
+        if (const auto* const inner = dynamic_cast<const CValueContainerBase*>(&value))
+            lines += linesOf(*inner, place + '/');
+        else
+            lines += place + ": " + textOf(value) + '\n';
+    }
+    return lines;
+}
+
+} // namespace
+
+ParametersPanel::ParametersPanel(QWidget* parent, const char* name) : qt3::Widget(parent, name) {
+    qt3::GroupBox* const box = boxIn(this, "Generated dialog");
+    auto* column = columnIn(box);
+    auto* button = new qt3::PushButton("Edit the &parameters...", box, "editParameters");
+    connect(button, SIGNAL(clicked()), this, SLOT(edit()));
+    column->addWidget(button);
+    m_pMessage = addText(box, column, "Nothing edited yet", "parametersMessage");
+    m_pParameters = new qt3::TextEdit(box, "parameters");
+    m_pParameters->setReadOnly(true);
+    column->addWidget(m_pParameters, 1);
+}
+
+void ParametersPanel::edit() {
+    try {
+        m_pMessage->setText(m_dialog.show() ? "Edited:" : "Cancelled. Still:");
+    } catch (const std::exception& error) {
+        m_pMessage->setText(qt3::fromAscii(std::string("There is no dialog:\n") + error.what()));
+    }
+    m_pParameters->setText(qt3::fromAscii(linesOf(m_dialog.m_parameters, "")));
+}
