@@ -16,7 +16,8 @@ QWidget* createDataPage(QWidget* parent, SignalLog& log, const Options& options)
     auto* left = new qt3::VBoxLayout(row, 8);
     auto* filter = new FilterPanel(page, "filter");
     auto* images = new ImagesPanel(page, "openImagesPanel", *filter);
-    images->load(options.m_images);
+    if (!options.m_images.empty())
+        images->load(options.m_images);
     left->addWidget(filter);
     left->addWidget(images, 1);
     auto* right = new qt3::VBoxLayout(row, 8);

@@ -3,6 +3,7 @@
 namespace {
 
 const int c_nLabelWidth = 130;
+const int c_nPaneFrame = 12; ///< Pixels above and below the lines.
 
 } // namespace
 
@@ -36,6 +37,15 @@ qt3::LineEdit* addField(qt3::GroupBox* box, qt3::VBoxLayout* column, const char*
     field->setText(text);
     column->addWidget(field);
     return field;
+}
+
+qt3::TextEdit* addPane(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* name, int lines) {
+    auto* pane = new qt3::TextEdit(box, name);
+    pane->setReadOnly(true);
+    if (lines > 0)
+        pane->setFixedHeight(lines * pane->fontMetrics().lineSpacing() + c_nPaneFrame);
+    column->addWidget(pane, lines > 0 ? 0 : 1);
+    return pane;
 }
 
 void addLabelled(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label, QWidget* widget) {

@@ -6,6 +6,7 @@
 #include <qt3/Label.h>
 #include <qt3/Layout.h>
 #include <qt3/LineEdit.h>
+#include <qt3/TextEdit.h>
 #include <qt3/Widget.h>
 
 // What the pages build their boxes from. All widgets belong to the box.
@@ -22,6 +23,9 @@ qt3::Label* addText(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* tex
 /// A field below its label.
 qt3::LineEdit* addField(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label,
                         const char* text);
+
+/// A text to read that may be long: it scrolls. As many lines high as that, or, for 0, as there is room.
+qt3::TextEdit* addPane(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* name, int lines);
 
 /// A widget right of its label.
 void addLabelled(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label, QWidget* widget);

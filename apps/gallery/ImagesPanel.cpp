@@ -3,6 +3,7 @@
 #include "FilterPanel.h"
 #include "Form.h"
 #include "ImageText.h"
+#include "Paths.h"
 #include "Preview.h"
 
 #include <CFileDialog.h>
@@ -18,10 +19,6 @@ namespace {
 
 const char* const c_sSample = "sample";
 
-std::string nameOf(const std::string& path) {
-    return path.substr(path.find_last_of("/\\") + 1); // npos + 1 is 0
-}
-
 } // namespace
 
 ImagesPanel::ImagesPanel(QWidget* parent, const char* name, const FilterPanel& filter)
@@ -31,11 +28,10 @@ ImagesPanel::ImagesPanel(QWidget* parent, const char* name, const FilterPanel& f
     auto* button = new qt3::PushButton("Open &images...", box, "openImages");
     connect(button, SIGNAL(clicked()), this, SLOT(open()));
     column->addWidget(button);
-    m_pList = new qt3::TextEdit(box, "images");
-    m_pList->setReadOnly(true);
-    column->addWidget(m_pList, 1);
+    m_pList = addPane(box, column, "images", 0);
     m_pCount = addText(box, column, "", "imagesCount");
-    m_pMessage = addText(box, column, "", "imagesMessage");
+    m_pMessages = addPane(box, column, "imagesMessages", 3);
+    m_pMessages->setText("The samples exist only in memory");
 
     m_images.Add(c_sSample, sampleImage());
     m_images.Add(c_sSample, CImage(TEVU::IImage::CType::eUInt16, TEVU::CSize(640, 480)));
@@ -47,13 +43,13 @@ void ImagesPanel::load(const std::vector<std::string>& paths) {
     std::string messages;
     for (const std::string& path : paths) {
         try {
-            m_images.Add(nameOf(path), TEVU::CImageFile::Read(path));
-            messages += "Opened " + nameOf(path) + '\n';
+            m_images.Add(lastPart(path), TEVU::CImageFile::Read(path));
+            messages += "Opened " + lastPart(path) + '\n';
         } catch (const TEVU::CException& error) {
             messages += error.Message() + '\n';
         }
     }
-    m_pMessage->setText(qt3::fromAscii(messages));
+    m_pMessages->setText(qt3::fromAscii(messages));
     list();
 }
 

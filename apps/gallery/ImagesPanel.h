@@ -30,7 +30,7 @@ private:
     OpenImages m_images;
     qt3::TextEdit* m_pList;
     qt3::Label* m_pCount;
-    qt3::Label* m_pMessage;
+    qt3::TextEdit* m_pMessages;
 };
 
 #endif

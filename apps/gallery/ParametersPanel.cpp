@@ -47,16 +47,17 @@ ParametersPanel::ParametersPanel(QWidget* parent, const char* name) : qt3::Widge
     connect(button, SIGNAL(clicked()), this, SLOT(edit()));
     column->addWidget(button);
     m_pMessage = addText(box, column, "Nothing edited yet", "parametersMessage");
-    m_pParameters = new qt3::TextEdit(box, "parameters");
-    m_pParameters->setReadOnly(true);
-    column->addWidget(m_pParameters, 1);
+    m_pParameters = addPane(box, column, "parameters", 0);
 }
 
 void ParametersPanel::edit() {
+    std::string lines;
     try {
         m_pMessage->setText(m_dialog.show() ? "Edited:" : "Cancelled. Still:");
+        lines = linesOf(m_dialog.m_parameters, "");
     } catch (const std::exception& error) {
-        m_pMessage->setText(qt3::fromAscii(std::string("There is no dialog:\n") + error.what()));
+        m_pMessage->setText("There is no dialog:");
+        lines = error.what();
     }
-    m_pParameters->setText(qt3::fromAscii(linesOf(m_dialog.m_parameters, "")));
+    m_pParameters->setText(qt3::fromAscii(lines));
 }

@@ -1,8 +1,8 @@
 #include "SettingsPanel.h"
 
-#include "DataFolder.h"
 #include "FilterPanel.h"
 #include "Form.h"
+#include "Paths.h"
 #include "SettingsFile.h"
 
 #include <CFileDialog.h>
@@ -46,6 +46,7 @@ SettingsPanel::SettingsPanel(QWidget* parent, const char* name, FilterPanel& fil
     addButton(box, files, "&Load...", "loadSettings", SLOT(load()));
     addButton(box, files, "Sa&ve...", "saveSettings", SLOT(save()));
     m_pMessage = addText(box, column, "Nothing loaded yet", "settingsMessage");
+    m_pEntries = addPane(box, column, "settingsEntries", 6);
 }
 
 void SettingsPanel::addButton(qt3::GroupBox* box, qt3::HBoxLayout* line, const char* text,
@@ -66,21 +67,19 @@ void SettingsPanel::loadSample() {
 }
 
 void SettingsPanel::loadFrom(const std::string& path) {
-    const std::string name = path.substr(path.find_last_of("/\\") + 1);
-    std::string message;
+    const std::string name = lastPart(path);
     try {
         TEVU::CValueMap map = SettingsFile::read(path);
         if (m_format.VerifyLoadedMapWithErrorMessageBox(map, name.c_str(), "gallery settings",
                                                         "gallery")) {
             m_filter.SetSettings(map);
-            message = "Loaded " + name + ". Without its stamp:\n" + SettingsFile::toText(map);
+            tell("Loaded " + name + ". Without its stamp:", SettingsFile::toText(map));
         } else {
-            message = "Not loaded: " + name + ". It holds:\n" + SettingsFile::toText(map);
+            tell("Not loaded: " + name + ". It holds:", SettingsFile::toText(map));
         }
     } catch (const TEVU::CException& error) {
-        message = error.Message();
+        tell("Not loaded: " + name, error.Message());
     }
-    m_pMessage->setText(qt3::fromAscii(message));
 }
 
 void SettingsPanel::save() {
@@ -91,8 +90,13 @@ void SettingsPanel::save() {
     m_format.AddIdVersion(map);
     try {
         SettingsFile::write(map, dialog.FilePath());
-        m_pMessage->setText(qt3::fromAscii("Saved:\n" + SettingsFile::toText(map)));
+        tell("Saved:", SettingsFile::toText(map));
     } catch (const TEVU::CException& error) {
-        m_pMessage->setText(qt3::fromAscii(error.Message()));
+        tell("Not saved:", error.Message());
     }
+}
+
+void SettingsPanel::tell(const std::string& message, const std::string& entries) {
+    m_pMessage->setText(qt3::fromAscii(message));
+    m_pEntries->setText(qt3::fromAscii(entries));
 }

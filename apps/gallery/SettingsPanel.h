@@ -6,6 +6,7 @@
 #include <qt3/GroupBox.h>
 #include <qt3/Label.h>
 #include <qt3/Layout.h>
+#include <qt3/TextEdit.h>
 #include <qt3/Widget.h>
 #include <string>
 
@@ -28,11 +29,13 @@ private:
     void addButton(qt3::GroupBox* box, qt3::HBoxLayout* line, const char* text, const char* name,
                    const char* slot);
     void loadFrom(const std::string& path);
+    void tell(const std::string& message, const std::string& entries);
 
     FilterPanel& m_filter;
     TEVU::CValueMapFileVersionHandling m_format;
     qt3::ComboBox* m_pSamples;
     qt3::Label* m_pMessage;
+    qt3::TextEdit* m_pEntries; ///< Of the file.
 };
 
 #endif
