@@ -2,6 +2,9 @@
 
 #include "Events.h"
 
+#include <qt3/Widget.h>
+#include <qt3/WidgetFunctions.h>
+
 #include <gtest/gtest.h>
 
 #include <qwidget.h>
@@ -54,6 +57,20 @@ std::string drawn(const std::function<void(qt3::Painter*)>& draw) {
     return CCanvas(draw).rows();
 }
 
+/// As large as its picture.
+class CShowing : public qt3::Widget {
+public:
+    explicit CShowing(const qt3::Pixmap& shown) : m_hShown(shown) {
+        resize(shown.width(), shown.height());
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override { qt3::bitBlt(this, m_hShown); }
+
+private:
+    qt3::Pixmap m_hShown;
+};
+
 const char* const c_nothing = "........\n........\n........\n........\n"
                               "........\n........\n........\n........\n";
 
@@ -96,6 +113,64 @@ TEST(PainterTest, LineHasBothEnds) {
               "..####..\n........\n........\n........\n........\n........\n........\n........\n");
 }
 
+TEST(PixmapTest, PaintingGoesOnWhereItStopped) {
+    const QWidget widget;
+    qt3::Pixmap first;
+    qt3::Pixmap second;
+    qt3::resize(&first, &widget, 4, 1);
+    qt3::resize(&second, &widget, 4, 1);
+    const auto paint = [](qt3::Pixmap* picture, int x, const QColor& color) {
+        qt3::Painter painter(picture);
+        painter.fillRect(x, 0, 1, 1, QBrush(color));
+    };
+    for (int x = 0; x < 4; ++x) { // by turns
+        paint(&first, x, QColor(10 * x, 0, 0));
+        paint(&second, x, QColor(0, 0, 10 * x));
+    }
+    {
+        qt3::Painter outer(&first); // both at a time
+        qt3::Painter inner(&second);
+        outer.fillRect(3, 0, 1, 1, QBrush(QColor(1, 2, 3)));
+        inner.fillRect(3, 0, 1, 1, QBrush(QColor(4, 5, 6)));
+    }
+
+    CShowing one(first);
+    CShowing other(second);
+    EXPECT_EQ(support::pixel(&one, 2, 0), 0x140000u);
+    EXPECT_EQ(support::pixel(&other, 2, 0), 0x000014u);
+    EXPECT_EQ(support::pixel(&one, 3, 0), 0x010203u);
+    EXPECT_EQ(support::pixel(&other, 3, 0), 0x040506u);
+}
+
+TEST(PixmapTest, PictureThatTakesThePlaceOfAnotherIsPaintedOnAnew) {
+    const QWidget widget;
+    for (int i = 0; i < 20; ++i) {
+        qt3::Pixmap picture;
+        qt3::resize(&picture, &widget, 4 + i % 3, 4);
+        {
+            qt3::Painter painter(&picture);
+            painter.fillRect(0, 0, 4 + i % 3, 4, QBrush(QColor(i, 0, 0)));
+        }
+        CShowing showing(picture);
+        EXPECT_EQ(support::pixel(&showing, 3, 3), static_cast<unsigned>(i) << 16);
+    }
+}
+
+TEST(PixmapTest, WhatItDoesNotCoverOfAnOpaqueWidgetIsErased) {
+    const QWidget widget;
+    qt3::Pixmap picture;
+    qt3::resize(&picture, &widget, 2, 2);
+    picture.fill(QColor(255, 0, 0));
+    CShowing showing(picture);
+    showing.resize(4, 4);
+    showing.setPaletteBackgroundColor(QColor(0, 0, 255));
+    qt3::setOpaque(&showing);
+
+    EXPECT_EQ(support::pixel(&showing, 1, 1), 0xff0000u);
+    EXPECT_EQ(support::pixel(&showing, 3, 1), 0x0000ffu);
+    EXPECT_EQ(support::pixel(&showing, 1, 3), 0x0000ffu);
+}
+
 TEST(PixmapTest, PictureWithoutAreaIsNull) {
     const QWidget widget;
     qt3::Pixmap picture;
@@ -115,10 +190,6 @@ TEST(PixmapTest, CopyKeepsItsPixels) {
     const qt3::Pixmap copy(picture);
     picture.fill(QColor(255, 0, 0));
 
-    struct CShowing : QWidget {
-        explicit CShowing(const qt3::Pixmap& shown) : m_hShown(shown) { resize(2, 2); }
-        void paintEvent(QPaintEvent*) override { qt3::bitBlt(this, m_hShown); }
-        qt3::Pixmap m_hShown;
-    } showing(copy);
+    CShowing showing(copy);
     EXPECT_EQ(support::pixel(&showing, 1, 1), 0x0000ffu);
 }

@@ -32,6 +32,8 @@ void repaint(QWidget* widget, bool erase) {
     widget->repaint(erase);
 }
 
+void setOpaque(QWidget*) {} // nothing is ever painted beneath
+
 void clearPolished(QWidget* widget) {
     State::clear(widget, Qt::WState_Polished);
 }

@@ -13,6 +13,10 @@ void repaint(QWidget* widget, bool) {
     widget->repaint();
 }
 
+void setOpaque(QWidget* widget) {
+    widget->setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
 void clearPolished(QWidget* widget) {
     widget->setAttribute(Qt::WA_WState_Polished, false);
 }
@@ -40,6 +44,7 @@ void takeOver(QWidget* target, const QWidget* source) {
     target->setPalette(source->testAttribute(Qt::WA_SetPalette) ? source->palette() : QPalette());
     target->setFont(source->testAttribute(Qt::WA_SetFont) ? source->font() : QFont());
     target->setWindowTitle(source->windowTitle());
+    target->setAttribute(Qt::WA_OpaquePaintEvent, source->testAttribute(Qt::WA_OpaquePaintEvent));
     target->setEnabled(source->isEnabledTo(source->parentWidget()));
 }
 

@@ -20,6 +20,10 @@ RUQGUI_EXPORT std::string name(const QObject* object);
 /// \param erase fill the background first, where the toolkit does not do so anyway
 RUQGUI_EXPORT void repaint(QWidget* widget, bool erase);
 
+/// Says that \a widget paints each of its pixels itself: so that a toolkit that would paint first what
+/// lies beneath need not do so.
+RUQGUI_EXPORT void setOpaque(QWidget* widget);
+
 /// Lets the toolkit polish \a widget again at its next show.
 RUQGUI_EXPORT void clearPolished(QWidget* widget);
 
@@ -33,7 +37,7 @@ RUQGUI_EXPORT void setSizePolicy(QWidget* widget, SizeType horizontal, SizeType 
 RUQGUI_EXPORT int textWidth(const QWidget* widget, const QString& text);
 
 /// Gives \a target what can be read of \a source: size limits and policy, geometry, palette, font,
-/// caption, and whether it is enabled by itself. Parent, name and flags stay.
+/// caption, whether it is opaque, and whether it is enabled by itself. Parent, name and flags stay.
 RUQGUI_EXPORT void takeOver(QWidget* target, const QWidget* source);
 
 } // namespace qt3
