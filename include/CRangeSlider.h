@@ -3,7 +3,6 @@
 
 #include <qt3/Export.h>
 #include <qt3/Painter.h>
-#include <qt3/Style.h>
 #include <qt3/Widget.h>
 
 namespace TEVU {
@@ -127,8 +126,6 @@ private:
     EnGrabState ElementAt(const QPoint& point) const;
     void PlaceElements();
     QRect Segment(int begin, int length) const;
-    void DrawElement(qt3::Painter& painter, qt3::Style::PrimitiveElement element, const QRect& rect,
-                     unsigned flags) const;
     unsigned FlagsOf(EnGrabState element) const;
 
     Qt::Orientation m_eOrientation;

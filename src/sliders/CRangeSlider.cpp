@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <qt3/Events.h>
+#include <qt3/Style.h>
 
 namespace TEVU {
 
@@ -14,6 +15,35 @@ namespace {
 bool hits(const QRect& rect, const QPoint& point) {
     return rect.isValid() && rect.contains(point);
 }
+
+using qt3::Style;
+
+/// Draws the elements of one slider, in its colours.
+class CElementPainter {
+public:
+    CElementPainter(const qt3::Widget* slider, bool vertical, qt3::Painter* painter)
+        : m_style(qt3::styleOf(slider)), m_colors(slider->colorGroup()),
+          m_nFlags((slider->isEnabled() ? Style::Style_Enabled : Style::Style_Default) |
+                   (vertical ? Style::Style_Default : Style::Style_Horizontal)),
+          m_pPainter(painter) {}
+
+    void Draw(Style::PrimitiveElement element, const QRect& rect, unsigned flags) const {
+        if (rect.width() < 0 || rect.height() < 0)
+            return; // a bar between handles that overlap: styles complain of it, or draw anything
+        m_style.drawPrimitive(element, m_pPainter, rect, m_colors, flags | m_nFlags);
+    }
+
+    void DrawHandle(Style::PrimitiveElement arrow, const QRect& rect, unsigned flags) const {
+        Draw(Style::PE_ButtonBevel, rect, flags);
+        Draw(arrow, rect, flags);
+    }
+
+private:
+    Style m_style;
+    qt3::ColorGroup m_colors;
+    unsigned m_nFlags;
+    qt3::Painter* m_pPainter;
+};
 
 } // namespace
 
@@ -27,7 +57,8 @@ CRangeSlider::CRangeSlider(Qt::Orientation orientation, int lower, int upper, in
         m_nMax = saturated(m_nMin + 1LL);
     m_nUpper = std::min(m_nUpper, m_nMax);
     m_nLower = std::max(m_nLower, m_nMin);
-    m_nHandleSize = qt3::styleOf(this).pixelMetric(qt3::Style::PM_ScrollBarExtent);
+    m_nHandleSize = qt3::styleOf(this).pixelMetric(Style::PM_ScrollBarExtent);
+    qt3::setOpaque(this);
     FixThickness();
     RenderPrimitives();
 }
@@ -155,24 +186,23 @@ void CRangeSlider::ValueChange() {}
 void CRangeSlider::RangeChange() {}
 
 void CRangeSlider::RenderPrimitives() {
+    static const QBrush background(QColor(255, 255, 255));
     qt3::resize(&m_buffer, this, width(), height());
     PlaceElements();
     if (m_buffer.isNull())
         return; // a widget without an area
     qt3::Painter painter(&m_buffer);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(255, 255, 255));
+    painter.setBrush(background);
     painter.drawRect(rect());
 
-    using Style = qt3::Style;
-    DrawElement(painter, Style::PE_Panel, m_grooveRect, Style::Style_Sunken);
-    DrawElement(painter, Style::PE_ScrollBarSlider, m_barRect, FlagsOf(eBar));
-    DrawElement(painter, Style::PE_ButtonBevel, m_lowerHandleRect, FlagsOf(eLowerHandle));
-    DrawElement(painter, IsVertical() ? Style::PE_ArrowDown : Style::PE_ArrowRight,
-                m_lowerHandleRect, FlagsOf(eLowerHandle));
-    DrawElement(painter, Style::PE_ButtonBevel, m_upperHandleRect, FlagsOf(eUpperHandle));
-    DrawElement(painter, IsVertical() ? Style::PE_ArrowUp : Style::PE_ArrowLeft, m_upperHandleRect,
-                FlagsOf(eUpperHandle));
+    const CElementPainter elements(this, IsVertical(), &painter);
+    elements.Draw(Style::PE_Panel, m_grooveRect, Style::Style_Sunken);
+    elements.Draw(Style::PE_ScrollBarSlider, m_barRect, FlagsOf(eBar));
+    elements.DrawHandle(IsVertical() ? Style::PE_ArrowDown : Style::PE_ArrowRight,
+                        m_lowerHandleRect, FlagsOf(eLowerHandle));
+    elements.DrawHandle(IsVertical() ? Style::PE_ArrowUp : Style::PE_ArrowLeft, m_upperHandleRect,
+                        FlagsOf(eUpperHandle));
 }
 
 void CRangeSlider::PlaceElements() {
@@ -197,18 +227,7 @@ QRect CRangeSlider::Segment(int begin, int length) const {
 }
 
 unsigned CRangeSlider::FlagsOf(EnGrabState element) const {
-    return element == m_eGrabState ? qt3::Style::Style_Down : qt3::Style::Style_Default;
-}
-
-void CRangeSlider::DrawElement(qt3::Painter& painter, qt3::Style::PrimitiveElement element,
-                               const QRect& elementRect, unsigned flags) const {
-    if (elementRect.width() < 0 || elementRect.height() < 0)
-        return; // a bar between handles that overlap: styles complain of it, or draw anything
-    if (isEnabled())
-        flags |= qt3::Style::Style_Enabled;
-    if (!IsVertical())
-        flags |= qt3::Style::Style_Horizontal;
-    qt3::styleOf(this).drawPrimitive(element, &painter, elementRect, colorGroup(), flags);
+    return element == m_eGrabState ? Style::Style_Down : Style::Style_Default;
 }
 
 int CRangeSlider::Length() const {

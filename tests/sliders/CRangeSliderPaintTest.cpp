@@ -36,7 +36,7 @@ struct StLook {
     CRangeSliderModel::EnGrab pressed = CRangeSliderModel::eNothing;
 };
 
-/// The picture of a range slider, drawn a second time from single elements.
+/// The picture of a range slider, drawn a second time from single elements, all of them anew.
 class CExpected : public qt3::Widget {
 public:
     CExpected(const QWidget& like, Qt::Orientation orientation, const StLook& look)
@@ -53,9 +53,24 @@ protected:
             painter.setPen(Qt::NoPen);
             painter.setBrush(QColor(255, 255, 255)); // a style may use what is set
             painter.drawRect(rect());
+            painter.setClipRect(rect()); // what is clipped is not taken from pictures kept
             drawAll(&painter);
         }
         qt3::bitBlt(this, picture);
+    }
+
+protected:
+    void drawAll(qt3::Painter* painter) const {
+        draw(painter, Style::PE_Panel, part(0, m_bVertical ? height() : width()),
+             Style::Style_Sunken);
+        if (m_look.upperPixel >= m_look.lowerPixel)
+            draw(painter, Style::PE_ScrollBarSlider,
+                 part(m_look.lowerPixel, m_look.upperPixel - m_look.lowerPixel),
+                 down(CRangeSliderModel::eBar));
+        drawHandle(painter, m_bVertical ? Style::PE_ArrowDown : Style::PE_ArrowRight,
+                   m_look.lowerPixel - c_handle, down(CRangeSliderModel::eLowerHandle));
+        drawHandle(painter, m_bVertical ? Style::PE_ArrowUp : Style::PE_ArrowLeft,
+                   m_look.upperPixel, down(CRangeSliderModel::eUpperHandle));
     }
 
 private:
@@ -82,21 +97,23 @@ private:
         draw(painter, arrow, part(begin, c_handle), flags);
     }
 
-    void drawAll(qt3::Painter* painter) const {
-        draw(painter, Style::PE_Panel, part(0, m_bVertical ? height() : width()),
-             Style::Style_Sunken);
-        if (m_look.upperPixel >= m_look.lowerPixel)
-            draw(painter, Style::PE_ScrollBarSlider,
-                 part(m_look.lowerPixel, m_look.upperPixel - m_look.lowerPixel),
-                 down(CRangeSliderModel::eBar));
-        drawHandle(painter, m_bVertical ? Style::PE_ArrowDown : Style::PE_ArrowRight,
-                   m_look.lowerPixel - c_handle, down(CRangeSliderModel::eLowerHandle));
-        drawHandle(painter, m_bVertical ? Style::PE_ArrowUp : Style::PE_ArrowLeft,
-                   m_look.upperPixel, down(CRangeSliderModel::eUpperHandle));
-    }
-
     bool m_bVertical;
     StLook m_look;
+};
+
+/// The same without a picture: in the pixels that the screen has.
+class CPaintedAtOnce : public CExpected {
+public:
+    using CExpected::CExpected;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        qt3::Painter painter(this);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(255, 255, 255));
+        painter.drawRect(rect());
+        drawAll(&painter);
+    }
 };
 
 testing::AssertionResult same(const QImage& actual, const QImage& expected) {
@@ -336,6 +353,39 @@ TEST_P(CRangeSliderPaintTest, EveryStyleDrawsTheElementsAsTheyAreGivenToIt) {
         shown.m_slider.RenderPrimitives();
         EXPECT_TRUE(shows(shown, {36, 96}, true, styles.back().get())) << support::text(keys[i]);
     }
+}
+
+TEST_P(CRangeSliderPaintTest, EveryPixelIsThatOfAFreshDrawingInEveryStyleAndState) {
+    const std::pair<int, CRangeSliderModel::EnGrab> presses[] = {
+        {10, CRangeSliderModel::eNothing},
+        {28, CRangeSliderModel::eLowerHandle},
+        {50, CRangeSliderModel::eBar},
+        {100, CRangeSliderModel::eUpperHandle}};
+    std::vector<std::unique_ptr<QStyle>> styles; // each outlives the slider
+    StShownSlider shown(GetParam(), c_middle);
+    const QStringList keys = QStyleFactory::keys();
+    for (int i = 0; i < 2 * static_cast<int>(keys.size()); ++i) { // each twice: drawn, then copied
+        styles.emplace_back(QStyleFactory::create(keys[i / 2]));
+        shown.m_slider.setStyle(styles.back().get());
+        for (const auto& [along, element] : presses) {
+            shown.press(along);
+            for (const bool enabled : {false, true}) {
+                shown.m_slider.setEnabled(enabled);
+                shown.m_slider.RenderPrimitives();
+                EXPECT_TRUE(shows(shown, {36, 96, element}, enabled, styles.back().get()))
+                    << support::text(keys[i / 2]) << ", enabled " << enabled << ", pressed "
+                    << element;
+            }
+            shown.m_slider.hideEvent(nullptr);
+        }
+    }
+}
+
+TEST_P(CRangeSliderPaintTest, PictureIsAsSharpAsTheScreen) {
+    StShownSlider shown(GetParam(), c_middle);
+    CPaintedAtOnce painted(shown.m_slider, GetParam(), {36, 96});
+
+    EXPECT_TRUE(same(support::grab(&shown.m_slider), support::grab(&painted)));
 }
 
 TEST_P(CRangeSliderPaintTest, ResizingRendersAnewOnTheWholeLength) {

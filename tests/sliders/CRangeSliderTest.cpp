@@ -9,6 +9,7 @@
 #include <ostream>
 #include <qstyle.h>
 #include <qstylefactory.h>
+#include <qt3/Style.h>
 #include <vector>
 
 using support::Lines;

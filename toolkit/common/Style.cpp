@@ -2,7 +2,7 @@
 
 namespace qt3 {
 
-Style::Style(const QWidget* widget) : m_pWidget(widget) {}
+Style::Style(const QWidget* widget) : m_pWidget(widget), m_context(widget) {}
 
 Style styleOf(const QWidget* widget) {
     return Style(widget);

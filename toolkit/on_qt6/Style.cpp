@@ -1,5 +1,7 @@
 #include <qt3/Style.h>
 
+#include "KeptPictures.h"
+
 #include <qpainter.h>
 #include <qpushbutton.h>
 #include <qstyle.h>
@@ -8,13 +10,34 @@
 namespace qt3 {
 namespace {
 
+QStyle::State stateOf(unsigned flags) {
+    static constexpr struct {
+        unsigned from;
+        QStyle::StateFlag to;
+    } pairs[] = {
+        {Style::Style_Enabled, QStyle::State_Enabled},
+        {Style::Style_Raised, QStyle::State_Raised},
+        {Style::Style_Sunken, QStyle::State_Sunken},
+        {Style::Style_On, QStyle::State_On},
+        {Style::Style_Down, QStyle::State_Sunken},
+        {Style::Style_Horizontal, QStyle::State_Horizontal},
+        {Style::Style_HasFocus, QStyle::State_HasFocus},
+    };
+    QStyle::State result = QStyle::State_None;
+    for (const auto& pair : pairs) {
+        if (flags & pair.from)
+            result |= pair.to;
+    }
+    return result;
+}
+
 /// Draws with one style; each function fills the option that its element takes.
 class Drawing {
 public:
     Drawing(const QWidget* widget, QPainter* painter, const QRect& rect, const ColorGroup& colors,
-            unsigned flags)
+            QStyle::State state)
         : m_pWidget(widget), m_pPainter(painter), m_hRect(rect), m_hColors(colors),
-          m_nFlags(flags) {}
+          m_nState(state) {}
 
     void plain(QStyle::PrimitiveElement element) const {
         QStyleOption option;
@@ -43,9 +66,9 @@ public:
     void scrollBarSlider() const {
         QStyleOptionSlider option;
         init(&option);
-        option.orientation = m_nFlags & Style::Style_Horizontal ? Qt::Horizontal : Qt::Vertical;
+        option.orientation = m_nState & QStyle::State_Horizontal ? Qt::Horizontal : Qt::Vertical;
         Drawing bevel = *this;
-        bevel.m_nFlags = (m_nFlags & ~unsigned(Style::Style_Down)) | Style::Style_Raised;
+        bevel.m_nState.setFlag(QStyle::State_Sunken, false).setFlag(QStyle::State_Raised);
         bevel.plain(QStyle::PE_PanelButtonBevel);
         m_pWidget->style()->drawControl(QStyle::CE_ScrollBarSlider, &option, m_pPainter, m_pWidget);
     }
@@ -55,28 +78,7 @@ private:
         option->initFrom(m_pWidget);
         option->rect = m_hRect;
         option->palette = m_hColors.palette();
-        option->state = state() | (option->state & QStyle::State_Active);
-    }
-
-    QStyle::State state() const {
-        const struct {
-            unsigned from;
-            QStyle::StateFlag to;
-        } pairs[] = {
-            {Style::Style_Enabled, QStyle::State_Enabled},
-            {Style::Style_Raised, QStyle::State_Raised},
-            {Style::Style_Sunken, QStyle::State_Sunken},
-            {Style::Style_On, QStyle::State_On},
-            {Style::Style_Down, QStyle::State_Sunken},
-            {Style::Style_Horizontal, QStyle::State_Horizontal},
-            {Style::Style_HasFocus, QStyle::State_HasFocus},
-        };
-        QStyle::State result = QStyle::State_None;
-        for (const auto& pair : pairs) {
-            if (m_nFlags & pair.from)
-                result |= pair.to;
-        }
-        return result;
+        option->state = m_nState;
     }
 
     void draw(QStyle::PrimitiveElement element, const QStyleOption& option) const {
@@ -86,33 +88,64 @@ private:
     const QWidget* m_pWidget;
     QPainter* m_pPainter;
     QRect m_hRect;
-    ColorGroup m_hColors;
-    unsigned m_nFlags;
+    const ColorGroup& m_hColors;
+    QStyle::State m_nState;
+};
+
+/// One element, wherever it is to be drawn.
+class Element final : public ElementDrawing {
+public:
+    Element(const QWidget* widget, Style::PrimitiveElement element, const ColorGroup& colors,
+            QStyle::State state)
+        : m_pWidget(widget), m_eElement(element), m_hColors(colors), m_nState(state) {}
+
+    void draw(QPainter* painter, const QRect& rect) const override {
+        const Drawing drawing(m_pWidget, painter, rect, m_hColors, m_nState);
+        switch (m_eElement) {
+        case Style::PE_ButtonBevel:
+            return drawing.plain(QStyle::PE_PanelButtonBevel);
+        case Style::PE_FocusRect:
+            return drawing.focusRect();
+        case Style::PE_ArrowUp:
+            return drawing.plain(QStyle::PE_IndicatorArrowUp);
+        case Style::PE_ArrowDown:
+            return drawing.plain(QStyle::PE_IndicatorArrowDown);
+        case Style::PE_ArrowRight:
+            return drawing.plain(QStyle::PE_IndicatorArrowRight);
+        case Style::PE_ArrowLeft:
+            return drawing.plain(QStyle::PE_IndicatorArrowLeft);
+        case Style::PE_Panel:
+            return drawing.panel();
+        case Style::PE_ScrollBarSlider:
+            return drawing.scrollBarSlider();
+        }
+    }
+
+private:
+    const QWidget* m_pWidget;
+    Style::PrimitiveElement m_eElement;
+    const ColorGroup& m_hColors;
+    QStyle::State m_nState;
 };
 
 } // namespace
 
+StyleContext::StyleContext(const QWidget* widget)
+    : pStyle(widget->style()), eDirection(widget->layoutDirection()),
+      nFontDpi(qRound(widget->fontMetrics().fontDpi())), bActiveWindow(widget->isActiveWindow()) {}
+
 void Style::drawPrimitive(PrimitiveElement element, QPainter* painter, const QRect& rect,
                           const ColorGroup& colors, unsigned flags) const {
-    const Drawing drawing(m_pWidget, painter, rect, colors, flags);
-    switch (element) {
-    case PE_ButtonBevel:
-        return drawing.plain(QStyle::PE_PanelButtonBevel);
-    case PE_FocusRect:
-        return drawing.focusRect();
-    case PE_ArrowUp:
-        return drawing.plain(QStyle::PE_IndicatorArrowUp);
-    case PE_ArrowDown:
-        return drawing.plain(QStyle::PE_IndicatorArrowDown);
-    case PE_ArrowRight:
-        return drawing.plain(QStyle::PE_IndicatorArrowRight);
-    case PE_ArrowLeft:
-        return drawing.plain(QStyle::PE_IndicatorArrowLeft);
-    case PE_Panel:
-        return drawing.panel();
-    case PE_ScrollBarSlider:
-        return drawing.scrollBarSlider();
-    }
+    static KeptPictures pictures;
+    const QStyle::State active =
+        m_context.bActiveWindow ? QStyle::State_Active : QStyle::State_None;
+    const QStyle::State state = stateOf(flags) | active;
+    const Element drawing(m_pWidget, element, colors, state);
+    if (element == PE_FocusRect)
+        drawing.draw(painter, rect); // the blending of its line changes with the place
+    else
+        pictures.draw({m_context, element, state, colors.palette(), element == PE_Panel}, drawing,
+                      painter, rect);
 }
 
 int Style::pixelMetric(PixelMetric metric) const {

@@ -3,6 +3,7 @@
 
 #include <qt3/Export.h>
 #include <qt3/Global.h>
+#include <qt3/StyleContext.h>
 
 #include <qrect.h>
 
@@ -15,7 +16,9 @@ namespace qt3 {
 /// \code
 /// const qt3::Style style = qt3::styleOf(this);
 /// style.drawPrimitive(qt3::Style::PE_Panel, &painter, rect(), colorGroup(),
-/// qt3::Style::Style_Sunken); \endcode It must not outlive its widget.
+/// qt3::Style::Style_Sunken);
+/// \endcode
+/// Made for one drawing: it must not outlive its widget, and has its style and state as they are now.
 class RUQGUI_EXPORT Style {
 public:
     enum PrimitiveElement {
@@ -55,6 +58,7 @@ public:
 
 private:
     const QWidget* m_pWidget;
+    StyleContext m_context;
 };
 
 RUQGUI_EXPORT Style styleOf(const QWidget* widget);

@@ -31,11 +31,12 @@ public:
         Background = QPalette::Window
     };
 
-    ColorGroup(const QPalette& palette, QPalette::ColorGroup group)
-        : m_hPalette(palette), m_eGroup(group) {}
+    ColorGroup(const QPalette& palette, QPalette::ColorGroup group) : m_hPalette(palette) {
+        m_hPalette.setCurrentColorGroup(group);
+    }
 
     const QColor& color(ColorRole role) const {
-        return m_hPalette.color(m_eGroup, static_cast<QPalette::ColorRole>(role));
+        return m_hPalette.color(static_cast<QPalette::ColorRole>(role));
     }
 
     const QColor& foreground() const { return color(Foreground); }
@@ -45,16 +46,11 @@ public:
     const QColor& base() const { return color(Base); }
     const QColor& background() const { return color(Background); }
 
-    /// A palette that shows these colours in every state.
-    QPalette palette() const {
-        QPalette same = m_hPalette;
-        same.setCurrentColorGroup(m_eGroup);
-        return same;
-    }
+    /// It shows these colours in every state.
+    const QPalette& palette() const { return m_hPalette; }
 
 private:
     QPalette m_hPalette;
-    QPalette::ColorGroup m_eGroup;
 };
 
 } // namespace qt3
