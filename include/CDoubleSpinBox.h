@@ -159,8 +159,8 @@ protected:
     /// The number in the editor, alone or with prefix and suffix. Otherwise 0, and \a ok is false.
     virtual double mapTextToValue(bool* ok);
 
-    /// Shows the value, puts the cursor before the suffix, paints the editor at once, and enables
-    /// the buttons that can step. Afterwards no text is pending.
+    /// Shows the value, puts the cursor before the suffix, paints the editor at once if it shows
+    /// anything else, and enables the buttons that can step. Afterwards no text is pending.
     virtual void updateDisplay();
 
     /// Makes the editor's text the value with setValue() if it is a number or the special text, and
@@ -181,6 +181,8 @@ private:
     void shareChildren(const CDoubleSpinBox& other);
     int longestTextWidth() const;
     void showCurrentText();
+    bool isPainted(const QString& shown) const;
+    int cursorPositionIn(const QString& shown) const;
     void enableButtons();
     bool filterKey(QKeyEvent* event);
 

@@ -44,7 +44,8 @@ KeyIntent intentOf(const QKeyEvent* event) {
 
 struct StDoubleSpinBoxPrivate {
     qt3::Pointer<qt3::SpinWidget> m_pSpinWidget; ///< Of a copy, the original's.
-    bool m_bSelect = false; ///< The display is being rebuilt for a change: select the number.
+    bool m_bSelect = false;  ///< The display is being rebuilt for a change: select the number.
+    bool m_bPainted = false; ///< The text of the own editor is as it was painted last.
     std::vector<double>
         m_vChanges; ///< The values whose changes are under way, the outermost first.
 
@@ -115,6 +116,7 @@ CDoubleSpinBox::~CDoubleSpinBox() {
 void CDoubleSpinBox::shareChildren(const CDoubleSpinBox& other) {
     m_pPrivate->m_pSpinWidget = other.m_pPrivate->m_pSpinWidget;
     m_pPrivate->m_bSelect = other.m_pPrivate->m_bSelect;
+    m_pPrivate->m_bPainted = false;
 }
 
 void CDoubleSpinBox::buildChildren() {
@@ -326,6 +328,7 @@ void CDoubleSpinBox::selectAll() {
 
 void CDoubleSpinBox::textChanged() {
     m_bEdited = true;
+    m_pPrivate->m_bPainted = false;
 }
 
 QString CDoubleSpinBox::currentValueText() {
@@ -356,17 +359,36 @@ void CDoubleSpinBox::updateDisplay() {
 }
 
 void CDoubleSpinBox::showCurrentText() {
+    const QString shown = currentValueText();
+    const bool bSelect =
+        m_pPrivate->m_bSelect && isVisible() && (hasFocus() || m_pEditor->hasFocus());
+    if (!bSelect && isPainted(shown))
+        return;
     m_pEditor->setUpdatesEnabled(false);
-    m_pEditor->setText(currentValueText()); // pending until updateDisplay() ends
-    if (m_pPrivate->m_bSelect && isVisible() && (hasFocus() || m_pEditor->hasFocus())) {
+    m_pEditor->setText(shown); // pending until updateDisplay() ends
+    if (bSelect) {
         // Selecting reads what has just been shown. That could go on for ever: a text may read as
         // another value, whose text reads as this one, or as a still larger one.
         m_bEdited = m_bEdited && !m_pPrivate->isGoingRound();
         selectAll();
-    } else if (!suffix().isEmpty() && text().endsWith(suffix()))
-        m_pEditor->setCursorPosition(qt3::length(text()) - qt3::length(suffix()));
+    } else if (!suffix().isEmpty()) {
+        m_pEditor->setCursorPosition(cursorPositionIn(text()));
+    }
     m_pEditor->setUpdatesEnabled(true);
     qt3::repaint(m_pEditor, false);
+    m_pPrivate->m_bPainted = m_pEditor == m_pPrivate->m_pOwnEditor;
+}
+
+// Each change rebuilds the display twice, and the second time finds nothing to do.
+bool CDoubleSpinBox::isPainted(const QString& shown) const {
+    return m_pPrivate->m_bPainted && m_pEditor->text() == shown && !m_pEditor->hasSelectedText() &&
+           m_pEditor->cursorPosition() == cursorPositionIn(shown);
+}
+
+// Before the suffix.
+int CDoubleSpinBox::cursorPositionIn(const QString& shown) const {
+    const int end = qt3::length(shown);
+    return shown.endsWith(suffix()) ? end - qt3::length(suffix()) : end;
 }
 
 void CDoubleSpinBox::enableButtons() {

@@ -12,8 +12,11 @@
 #include <qstyle.h>
 #include <qstylefactory.h>
 #include <qt3/MetaObject.h>
+#include <qt3/SignalTap.h>
 #include <qt3/SpinWidget.h>
 #include <qwidget.h>
+#include <utility>
+#include <vector>
 
 using support::Lines;
 using support::Modifier;
@@ -1022,6 +1025,125 @@ TEST_F(CDoubleSpinBox, NewStyleArrangesButtonsAndEditor) {
 
     EXPECT_TRUE(m_box.editor()->geometry() == place);
     m_box.setStyle(nullptr);
+}
+
+// Painting
+
+namespace {
+
+/// Counts how often a widget is painted from now on.
+class CPaintCount : public QObject {
+public:
+    explicit CPaintCount(QWidget* widget) {
+        support::processEvents(); // what is due already does not count
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        m_nCount += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int take() { return std::exchange(m_nCount, 0); }
+
+private:
+    int m_nCount = 0;
+};
+
+} // namespace
+
+TEST_F(CDoubleSpinBox, ChangeIsPaintedOnceAndAtOnce) {
+    leave();
+    CPaintCount paintings(m_box.editor());
+
+    m_box.setValue(5.0);
+    EXPECT_EQ(paintings.take(), 1);
+    m_box.setSuffix(" mm");
+    EXPECT_EQ(paintings.take(), 1);
+    m_box.stepUp();
+    EXPECT_EQ(paintings.take(), 1);
+    m_box.setMaxValue(2.0);
+    EXPECT_EQ(paintings.take(), 1);
+}
+
+TEST_F(CDoubleSpinBox, ChangeIsPaintedBeforeTheSignals) {
+    leave();
+    CPaintCount paintings(m_box.editor());
+    std::vector<int> painted;
+    qt3::SignalTap tap;
+    ASSERT_TRUE(tap.listen(&m_box, "valueChanged(double)",
+                           [&](const std::string&) { painted.push_back(paintings.take()); }));
+
+    m_box.setValue(5.0);
+
+    EXPECT_EQ(painted, std::vector<int>{1});
+}
+
+TEST_F(CDoubleSpinBox, SelectionOfAChangeInTheFocusIsPaintedAndThatItEndsToo) {
+    support::giveFocus(&m_box);
+    CPaintCount paintings(m_box.editor());
+
+    m_box.setValue(5.0);
+
+    EXPECT_EQ(paintings.take(), 2);
+}
+
+TEST_F(CDoubleSpinBox, WhatIsPaintedAlreadyIsNotPaintedAgain) {
+    leave();
+    m_box.setValue(5.0);
+    CPaintCount paintings(m_box.editor());
+
+    m_box.setValue(5.0);
+    m_box.setWrapping(true);
+    m_box.setMaxValue(8.0);
+    support::keyClick(&m_box, Qt::Key_Return, support::Modifier::None, "\r");
+
+    EXPECT_EQ(paintings.take(), 0);
+}
+
+TEST_F(CDoubleSpinBox, OtherTextGivesWayToTheValueAtOnce) {
+    leave();
+    m_box.setValue(5.0);
+    CPaintCount paintings(m_box.editor());
+
+    m_box.editor()->setText("6");
+    m_box.editor()->setText("5"); // the same text, but perhaps not yet on the screen
+    paintings.take();
+    m_box.setValue(5.0);
+
+    EXPECT_EQ(paintings.take(), 1);
+}
+
+TEST_F(CDoubleSpinBox, OtherSelectionOrCursorGivesWayToThatOfTheValueAtOnce) {
+    leave();
+    m_box.setSuffix(" mm");
+    CPaintCount paintings(m_box.editor());
+
+    m_box.editor()->selectAll();
+    paintings.take();
+    m_box.setValue(m_box.value());
+    EXPECT_EQ(paintings.take(), 1);
+    EXPECT_EQ(support::text(m_box.editor()->selectedText()), "");
+
+    m_box.editor()->setCursorPosition(0);
+    paintings.take();
+    m_box.setValue(m_box.value());
+    EXPECT_EQ(paintings.take(), 1);
+    EXPECT_EQ(m_box.editor()->cursorPosition(), 1);
+}
+
+TEST_F(CDoubleSpinBox, CopyPaintsItsValueIntoTheEditorOfTheOriginal) {
+    leave();
+    TEVU::CDoubleSpinBox copy(m_box);
+    m_box.setValue(5.0);
+    CPaintCount paintings(m_box.editor());
+
+    copy.setValue(7.0);
+    EXPECT_GE(paintings.take(), 1);
+    EXPECT_EQ(m_box.shown(), "7");
+    m_box.setWrapping(true);
+    EXPECT_EQ(paintings.take(), 1);
+    EXPECT_EQ(m_box.shown(), "7"); // which it has read
 }
 
 // Copies, and the end
