@@ -18,6 +18,9 @@ std::vector<std::string> childWidgets(QObject* parent);
 qt3::SizeType horizontalPolicy(const QWidget* widget);
 qt3::SizeType verticalPolicy(const QWidget* widget);
 
+/// The markup of the tool tip that shows over \a widget, "" if none does.
+std::string toolTip(QWidget* widget);
+
 /// The margin of a layout, -1 if its sides differ.
 int margin(QLayout* layout);
 

@@ -31,6 +31,19 @@ TEST(Looks, TellTheMarginOfALayout) {
     EXPECT_EQ(support::margin(&layout), 7);
 }
 
+TEST(Looks, TellTheToolTipOfAWidgetOrOfWhatIsAroundIt) {
+    QWidget parent;
+    qt3::Widget child(&parent);
+    EXPECT_EQ(support::toolTip(&child), "");
+
+    qt3::setToolTip(&parent, "outer");
+    EXPECT_NE(support::toolTip(&child).find("outer"), std::string::npos);
+
+    qt3::setToolTip(&child, "inner");
+    EXPECT_NE(support::toolTip(&child).find("inner"), std::string::npos);
+    EXPECT_NE(support::toolTip(&parent).find("outer"), std::string::npos);
+}
+
 TEST(Looks, TellADialogFromAChild) {
     QWidget parent;
     const qt3::Widget child(&parent);

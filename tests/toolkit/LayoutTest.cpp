@@ -4,6 +4,7 @@
 
 #include <qt3/GroupBox.h>
 #include <qt3/Label.h>
+#include <qt3/LineEdit.h>
 #include <qt3/Text.h>
 #include <qt3/WidgetFunctions.h>
 
@@ -104,6 +105,74 @@ TEST(LayoutTest, MarginCanBeChanged) {
     EXPECT_EQ(blocks.first->pos(), QPoint(2, 2));
 }
 
+TEST(GridLayoutTest, BorderAndSpacingAreInPixels) {
+    StTwoBlocks blocks;
+    qt3::GridLayout* const grid = new qt3::GridLayout(&blocks.window, 2, 2, 11, 6, "grid");
+    grid->addWidget(blocks.first, 0, 0);
+    grid->addWidget(blocks.second, 1, 1);
+    blocks.arrange();
+    EXPECT_EQ(blocks.first->pos(), QPoint(11, 11));
+    EXPECT_EQ(blocks.second->pos(), QPoint(11 + 20 + 6, 11 + 10 + 6));
+    EXPECT_EQ(qt3::name(grid), "grid");
+}
+
+TEST(GridLayoutTest, WithoutArgumentsThereIsNoRoomAtAll) {
+    StTwoBlocks blocks;
+    qt3::GridLayout* const grid = new qt3::GridLayout(&blocks.window);
+    grid->addWidget(blocks.first, 0, 0);
+    grid->addWidget(blocks.second, 0, 1);
+    blocks.arrange();
+    EXPECT_EQ(blocks.first->pos(), QPoint(0, 0));
+    EXPECT_EQ(blocks.second->pos(), QPoint(20, 0));
+}
+
+TEST(GridLayoutTest, GrowsBeyondTheRowsAndColumnsGiven) {
+    StTwoBlocks blocks;
+    qt3::GridLayout* const grid = new qt3::GridLayout(&blocks.window, 1, 1);
+    grid->addWidget(blocks.first, 0, 0);
+    grid->addWidget(blocks.second, 3, 2);
+    blocks.arrange();
+    EXPECT_EQ(blocks.second->pos(), QPoint(20, 10));
+}
+
+TEST(GridLayoutTest, NestedHasNoMarginAndInheritsTheSpacing) {
+    StTwoBlocks blocks;
+    qt3::VBoxLayout* const outer = new qt3::VBoxLayout(&blocks.window, 3, 5);
+    qt3::GridLayout* const grid = new qt3::GridLayout(outer, 1, 2);
+    grid->addWidget(blocks.first, 0, 0);
+    grid->addWidget(blocks.second, 0, 1);
+    blocks.arrange();
+    EXPECT_EQ(blocks.first->pos(), QPoint(3, 3));
+    EXPECT_EQ(blocks.second->pos(), QPoint(3 + 20 + 5, 3));
+}
+
+TEST(GridLayoutTest, AWidgetCanTakeSeveralCells) {
+    QWidget window;
+    qt3::GridLayout* const grid = new qt3::GridLayout(&window, 2, 2, 0, 4);
+    grid->addWidget(block(&window), 0, 0);
+    grid->addWidget(block(&window), 0, 1);
+    QWidget* const wide = new QWidget(&window);
+    grid->addMultiCellWidget(wide, 1, 1, 0, 1);
+    wide->setMinimumHeight(8);
+    window.resize(grid->minimumSize());
+    support::show(&window);
+    EXPECT_EQ(wide->geometry(), QRect(0, 14, 44, 8));
+}
+
+TEST(GridLayoutTest, AColumnThatStretchesTakesTheRoom) {
+    QWidget window;
+    qt3::GridLayout* const grid = new qt3::GridLayout(&window, 1, 2);
+    grid->setColStretch(1, 1);
+    QWidget* const first = block(&window);
+    QWidget* const second = new QWidget(&window);
+    grid->addWidget(first, 0, 0);
+    grid->addWidget(second, 0, 1);
+    window.resize(100, 30);
+    support::show(&window);
+    EXPECT_EQ(second->x(), 20);
+    EXPECT_EQ(second->width(), 80);
+}
+
 namespace {
 
 /// A group box with a row inside, as the header editor has one.
@@ -185,6 +254,18 @@ TEST(LabelTest, MarkupIsShownAsItIs) {
     qt3::Label shorter(qt3::fromAscii("x"), nullptr);
     EXPECT_EQ(qt3::name(&plain), "label");
     EXPECT_GT(plain.sizeHint().width(), 3 * shorter.sizeHint().width());
+}
+
+TEST(LabelTest, WithABuddyTheAmpersandMarksAKey) {
+    QWidget window;
+    qt3::LineEdit field(&window);
+    qt3::Label marked(qt3::fromAscii("&Name:"), &window);
+    qt3::Label plain(qt3::fromAscii("Name:"), &window);
+    const int asTyped = marked.sizeHint().width();
+    EXPECT_GT(asTyped, plain.sizeHint().width());
+    marked.setBuddy(&field);
+    EXPECT_EQ(marked.buddy(), &field);
+    EXPECT_LT(marked.sizeHint().width(), asTyped);
 }
 
 TEST(LabelTest, TextStandsAtTheLeftInTheMiddleOfTheHeight) {

@@ -202,6 +202,12 @@ TEST(TextTest, LowerChangesLetters) {
     EXPECT_EQ(ascii(qt3::lower(fromAscii("Ab1\xc4."))), "ab1\xe4.");
 }
 
+TEST(TextTest, PlainMarkupShowsWhatLooksLikeMarkup) {
+    EXPECT_EQ(ascii(qt3::plainMarkup(fromAscii("a <b>&amp;\nc"))),
+              "<qt>a &lt;b>&amp;amp;<br>c</qt>");
+    EXPECT_EQ(ascii(qt3::plainMarkup(QString())), "<qt></qt>");
+}
+
 TEST(TextTest, LowerKeepsTheLength) {
     const QString capitalDottedI(QChar(0x0130));
     EXPECT_EQ(qt3::length(qt3::lower(capitalDottedI)), 1);

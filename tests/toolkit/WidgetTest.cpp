@@ -1,6 +1,7 @@
 #include <qt3/Widget.h>
 
 #include "Events.h"
+#include "Looks.h"
 #include "Specimens.h"
 
 #include <qt3/MetaObject.h>
@@ -215,6 +216,32 @@ TEST(WidgetTest, ClearedPolishKeepsTheWidgetUsable) {
     widget.hide();
     support::show(&widget);
     EXPECT_TRUE(widget.isVisible());
+}
+
+TEST(WidgetTest, ToolTipIsPlainText) {
+    qt3::Widget widget;
+    qt3::setToolTip(&widget, fromAscii("<b>1 & 2"));
+    EXPECT_EQ(support::toolTip(&widget), "<qt>&lt;b>1 &amp; 2</qt>");
+}
+
+TEST(WidgetTest, ToolTipCanBeReplacedAndTakenAway) {
+    qt3::Widget widget;
+    qt3::setToolTip(&widget, fromAscii("first"));
+    qt3::setToolTip(&widget, fromAscii("second"));
+    EXPECT_EQ(support::toolTip(&widget), "<qt>second</qt>");
+    qt3::setToolTip(&widget, QString());
+    EXPECT_EQ(support::toolTip(&widget), "");
+    qt3::setToolTip(&widget, QString());
+    EXPECT_EQ(support::toolTip(&widget), "");
+}
+
+TEST(WidgetTest, ThereIsRoomForWindowsOnTheScreen) {
+    qt3::Widget window;
+    support::show(&window);
+    const QRect room = qt3::availableGeometry(&window);
+    EXPECT_GE(room.width(), 640);
+    EXPECT_GE(room.height(), 480);
+    EXPECT_TRUE(room.contains(window.mapToGlobal(QPoint(0, 0))));
 }
 
 TEST(WidgetTest, SizePolicyKeepsHeightForWidth) {

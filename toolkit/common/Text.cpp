@@ -168,6 +168,22 @@ QString fromAscii(const std::string& bytes) {
     return text;
 }
 
+QString plainMarkup(const QString& text) {
+    QString markup = "<qt>";
+    for (int i = 0; i < length(text); ++i) {
+        const QChar c = text.at(i);
+        if (c == '<')
+            markup += "&lt;";
+        else if (c == '&')
+            markup += "&amp;";
+        else if (c == '\n')
+            markup += "<br>";
+        else
+            markup += c;
+    }
+    return markup + "</qt>";
+}
+
 bool isAscii(const QString& text) {
     for (int i = 0; i < length(text); ++i) {
         if (text.at(i).unicode() >= 128)

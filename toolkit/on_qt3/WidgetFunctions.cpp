@@ -1,6 +1,10 @@
 #include <qt3/WidgetFunctions.h>
 
+#include <qapplication.h>
+#include <qdesktopwidget.h>
 #include <qobject.h>
+#include <qt3/Text.h>
+#include <qtooltip.h>
 
 namespace qt3 {
 namespace {
@@ -54,6 +58,16 @@ void setSizePolicy(QWidget* widget, SizeType horizontal, SizeType vertical) {
 
 int textWidth(const QWidget* widget, const QString& text) {
     return widget->fontMetrics().width(text);
+}
+
+void setToolTip(QWidget* widget, const QString& text) {
+    QToolTip::remove(widget); // a second one would stay behind the first
+    if (!text.isEmpty())
+        QToolTip::add(widget, plainMarkup(text));
+}
+
+QRect availableGeometry(const QWidget* widget) {
+    return QApplication::desktop()->availableGeometry(const_cast<QWidget*>(widget));
 }
 
 void takeOver(QWidget* target, const QWidget* source) {

@@ -25,4 +25,21 @@ void nest(QLayout* parent, QLayout* layout) {
         qWarning("qt3::nest: only a box layout can take a nested one");
 }
 
+GridLayout::GridLayout(QWidget* parent, int, int, int border, int spacing, const char* name)
+    : QGridLayout(parent) {
+    initTopLayout(this, border, spacing, name);
+}
+
+GridLayout::GridLayout(QLayout* parent, int, int, int spacing, const char* name) {
+    initNestedLayout(this, spacing, name);
+    nest(parent, this);
+}
+
+GridLayout::~GridLayout() = default;
+
+void GridLayout::addMultiCellWidget(QWidget* widget, int fromRow, int toRow, int fromColumn,
+                                    int toColumn) {
+    addWidget(widget, fromRow, fromColumn, toRow - fromRow + 1, toColumn - fromColumn + 1);
+}
+
 } // namespace qt3

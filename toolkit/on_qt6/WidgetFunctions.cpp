@@ -1,5 +1,7 @@
 #include <qt3/WidgetFunctions.h>
 
+#include <qscreen.h>
+#include <qt3/Text.h>
 #include <qwidget.h>
 
 namespace qt3 {
@@ -34,6 +36,14 @@ void setSizePolicy(QWidget* widget, SizeType horizontal, SizeType vertical) {
 
 int textWidth(const QWidget* widget, const QString& text) {
     return widget->fontMetrics().horizontalAdvance(text);
+}
+
+void setToolTip(QWidget* widget, const QString& text) {
+    widget->setToolTip(text.isEmpty() ? QString() : plainMarkup(text));
+}
+
+QRect availableGeometry(const QWidget* widget) {
+    return widget->screen()->availableGeometry();
 }
 
 void takeOver(QWidget* target, const QWidget* source) {

@@ -1,5 +1,9 @@
 #include "Looks.h"
 
+#include "Events.h"
+
+#include <qtooltip.h>
+
 namespace support {
 
 qt3::SizeType horizontalPolicy(const QWidget* widget) {
@@ -8,6 +12,14 @@ qt3::SizeType horizontalPolicy(const QWidget* widget) {
 
 qt3::SizeType verticalPolicy(const QWidget* widget) {
     return widget->sizePolicy().verData();
+}
+
+// As the toolkit looks for it: a child without a tip has that of its parent.
+std::string toolTip(QWidget* widget) {
+    const QString tip = QToolTip::textFor(widget);
+    if (!tip.isEmpty() || widget->isTopLevel())
+        return text(tip);
+    return toolTip(widget->parentWidget());
 }
 
 int margin(QLayout* layout) {

@@ -1,5 +1,7 @@
 #include "Looks.h"
 
+#include "Events.h"
+
 namespace support {
 
 qt3::SizeType horizontalPolicy(const QWidget* widget) {
@@ -8,6 +10,14 @@ qt3::SizeType horizontalPolicy(const QWidget* widget) {
 
 qt3::SizeType verticalPolicy(const QWidget* widget) {
     return widget->sizePolicy().verticalPolicy();
+}
+
+// As the toolkit looks for it: a child without a tip has that of its parent.
+std::string toolTip(QWidget* widget) {
+    const QString tip = widget->toolTip();
+    if (!tip.isEmpty() || widget->isWindow())
+        return text(tip);
+    return toolTip(widget->parentWidget());
 }
 
 int margin(QLayout* layout) {

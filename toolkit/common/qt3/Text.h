@@ -26,6 +26,9 @@ RUQGUI_EXPORT QString stripWhiteSpace(const QString& text);
 /// Each character in lower case, one for one: the length stays.
 RUQGUI_EXPORT QString lower(const QString& text);
 
+/// Markup that shows \a text and its line breaks; what looks like markup in it shows as it stands.
+RUQGUI_EXPORT QString plainMarkup(const QString& text);
+
 /// The number that \a text spells with a decimal point, whatever the locale.
 ///
 /// Leading white space is skipped. "inf" and "nan" are numbers in any case of letters; only "inf"

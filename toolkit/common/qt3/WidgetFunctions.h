@@ -4,6 +4,7 @@
 #include <qt3/Export.h>
 #include <qt3/Global.h>
 
+#include <qrect.h>
 #include <qstring.h>
 
 #include <string>
@@ -35,6 +36,13 @@ RUQGUI_EXPORT void setSizePolicy(QWidget* widget, SizeType horizontal, SizeType 
 
 /// The pixels that \a text takes in the font of \a widget.
 RUQGUI_EXPORT int textWidth(const QWidget* widget, const QString& text);
+
+/// Shows \a text while the mouse rests on \a widget or a child without a tip of its own. The text is
+/// plain, and long lines of it are broken. An empty one takes the tip away.
+RUQGUI_EXPORT void setToolTip(QWidget* widget, const QString& text);
+
+/// The part of the screen with \a widget on it that is free for windows, in pixels of the screen.
+RUQGUI_EXPORT QRect availableGeometry(const QWidget* widget);
 
 /// Gives \a target what can be read of \a source: size limits and policy, geometry, palette, font,
 /// caption, whether it is opaque, and whether it is enabled by itself. Parent, name and flags stay.

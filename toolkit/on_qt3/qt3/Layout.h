@@ -9,6 +9,7 @@ namespace qt3 {
 
 typedef QHBoxLayout HBoxLayout;
 typedef QVBoxLayout VBoxLayout;
+typedef QGridLayout GridLayout;
 typedef QSpacerItem SpacerItem;
 
 /// The same margin on all four sides.

@@ -45,6 +45,22 @@ public:
 using HBoxLayout = BoxLayout<QHBoxLayout>;
 using VBoxLayout = BoxLayout<QVBoxLayout>;
 
+/// QGridLayout with the Qt 3.3 members. It grows as it is filled: \a rows and \a columns are where
+/// it starts.
+class RUQGUI_EXPORT GridLayout : public QGridLayout {
+public:
+    explicit GridLayout(QWidget* parent, int rows = 1, int columns = 1, int border = 0,
+                        int spacing = -1, const char* name = nullptr);
+    explicit GridLayout(QLayout* parent, int rows = 1, int columns = 1, int spacing = -1,
+                        const char* name = nullptr);
+    ~GridLayout() override;
+
+    /// Puts \a widget into all cells of a rectangle, the last row and column included.
+    void addMultiCellWidget(QWidget* widget, int fromRow, int toRow, int fromColumn, int toColumn);
+
+    void setColStretch(int column, int stretch) { setColumnStretch(column, stretch); }
+};
+
 } // namespace qt3
 
 #endif
