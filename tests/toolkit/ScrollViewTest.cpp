@@ -84,6 +84,14 @@ TEST(ScrollViewTest, FieldThatTabLeadsToIsScrolledIntoView) {
     }
 }
 
+TEST(ScrollViewTest, TabLeadsToTheFieldsOnly) {
+    StView view;
+    view.show(500, 200);
+    support::giveFocus(view.fields.back());
+    support::keyClick(view.fields.back(), Qt::Key_Tab, support::Modifier::None, "\t");
+    EXPECT_TRUE(view.fields.front()->hasFocus());
+}
+
 TEST(ScrollViewTest, FrameCanBeLeftOut) {
     StView view;
     view.view.setFrameStyle(QFrame::NoFrame);

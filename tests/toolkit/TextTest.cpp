@@ -191,6 +191,13 @@ TEST(TextTest, IsAsciiUpToCode127) {
     EXPECT_TRUE(qt3::isAscii(QString()));
 }
 
+TEST(TextTest, IsLatin1UpToCode255) {
+    EXPECT_TRUE(qt3::isLatin1(fromAscii("/data/\x80\xff.rek")));
+    EXPECT_FALSE(qt3::isLatin1(fromAscii("a") + QChar(0x0100)));
+    EXPECT_FALSE(qt3::isLatin1(QString(QChar(0x20ac))));
+    EXPECT_TRUE(qt3::isLatin1(QString()));
+}
+
 TEST(TextTest, StripsAllWhiteSpaceAtBothEndsOnly) {
     EXPECT_EQ(ascii(qt3::stripWhiteSpace(fromAscii("\t \xa0"
                                                    "a b\r\n"))),

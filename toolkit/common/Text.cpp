@@ -105,6 +105,14 @@ private:
     bool m_bNonZero = false; ///< A digit other than 0 stands before the exponent.
 };
 
+bool allBelow(const QString& text, unsigned limit) {
+    for (int i = 0; i < length(text); ++i) {
+        if (text.at(i).unicode() >= limit)
+            return false;
+    }
+    return true;
+}
+
 int firstNonSpace(const QString& text) {
     int index = 0;
     while (index < length(text) && text.at(index).isSpace())
@@ -185,11 +193,11 @@ QString plainMarkup(const QString& text) {
 }
 
 bool isAscii(const QString& text) {
-    for (int i = 0; i < length(text); ++i) {
-        if (text.at(i).unicode() >= 128)
-            return false;
-    }
-    return true;
+    return allBelow(text, 128);
+}
+
+bool isLatin1(const QString& text) {
+    return allBelow(text, 256);
 }
 
 int length(const QString& text) {

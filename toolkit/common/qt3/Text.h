@@ -18,6 +18,9 @@ RUQGUI_EXPORT QString fromAscii(const std::string& bytes);
 /// True when every character code is below 128; so also for an empty text.
 RUQGUI_EXPORT bool isAscii(const QString& text);
 
+/// True when ascii() loses nothing: every character code is below 256.
+RUQGUI_EXPORT bool isLatin1(const QString& text);
+
 RUQGUI_EXPORT int length(const QString& text);
 
 /// Without Unicode white space at both ends.

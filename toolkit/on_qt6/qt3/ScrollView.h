@@ -7,7 +7,8 @@
 
 namespace qt3 {
 
-/// QScrollArea with the Qt 3.3 members of a QScrollView that has one child.
+/// QScrollArea with the Qt 3.3 members of a QScrollView that has one child. Tab leads to the fields in
+/// it, not to itself.
 class ScrollView : public Bridged<QScrollArea> {
 public:
     enum ResizePolicy {
@@ -16,7 +17,9 @@ public:
     };
 
     explicit ScrollView(QWidget* parent = nullptr, const char* name = nullptr)
-        : Bridged<QScrollArea>(name, parent) {}
+        : Bridged<QScrollArea>(name, parent) {
+        setFocusPolicy(Qt::NoFocus);
+    }
 
     void addChild(QWidget* child) { setWidget(child); }
     void setResizePolicy(ResizePolicy policy) { setWidgetResizable(policy == AutoOneFit); }
