@@ -290,6 +290,19 @@ std::string joined(const Texts& path) {
     return words;
 }
 
+std::string plainLabel(const std::string& label) {
+    std::string plain;
+    for (std::size_t i = 0; i < label.size(); ++i) {
+        if (label[i] == '&')
+            ++i; // the mark; of two ampersands the second one shows
+        if (i < label.size())
+            plain += label[i];
+    }
+    if (!plain.empty() && plain.back() == ':')
+        plain.pop_back();
+    return plain;
+}
+
 StDialog parseDescription(const TEVU::CValue* description) {
     return Parser().parse(description);
 }

@@ -54,6 +54,9 @@ constexpr int c_nMaxDepth = 16;
 /// "filter/sigma": a path in words.
 std::string joined(const Texts& path);
 
+/// A label as a name in a sentence: without the mark of the accelerator and without a colon at the end.
+std::string plainLabel(const std::string& label);
+
 /// Reads a description; docs/generated-dialogs.md has its form.
 /// \param description may be null, which is a missing one
 /// \throws CException for whatever is missing, of a wrong type or value, or unknown. Its message names

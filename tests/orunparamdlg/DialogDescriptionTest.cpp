@@ -153,6 +153,14 @@ TEST(DialogDescriptionTest, WhatEveryParameterHas) {
     EXPECT_TRUE(parameter.advanced);
 }
 
+TEST(DialogDescriptionTest, LabelInASentenceHasNoMarksOfTheForm) {
+    EXPECT_EQ(plainLabel("&Mask:"), "Mask");
+    EXPECT_EQ(plainLabel("Black && &white"), "Black & white");
+    EXPECT_EQ(plainLabel("::"), ":");
+    EXPECT_EQ(plainLabel("&"), "");
+    EXPECT_EQ(plainLabel(""), "");
+}
+
 TEST(DialogDescriptionTest, LabelIsTheKeyIfNoneIsGiven) {
     const StParameter parameter =
         onlyParameter(map({{"kind", text("switch")}, {"key", text("a")}}));
