@@ -80,12 +80,13 @@ void CParameterDialog::addParameter(std::size_t index, QWidget* box, qt3::GridLa
         return;
     const StParameter& parameter = m_dialog.parameters[index];
     const QString help = qt3::fromAscii(parameter.help);
-    std::unique_ptr<CField> field = createField(parameter, box);
+    FieldPointer field = createField(parameter, box);
     field->setValue(m_values[index]);
     qt3::setToolTip(field->widget(), help);
     grid->addWidget(field->widget(), row, 1);
-    if (!field->hasOwnLabel()) {
-        auto* label = new qt3::Label(qt3::fromAscii(parameter.label), box);
+    const QString text = qt3::fromAscii(parameter.label);
+    if (!field->takesLabel(text)) {
+        auto* label = new qt3::Label(text, box);
         label->setBuddy(field->focusTarget());
         qt3::setToolTip(label, help);
         grid->addWidget(label, row, 0);

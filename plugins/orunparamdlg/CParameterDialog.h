@@ -3,7 +3,6 @@
 
 #include "Field.h"
 
-#include <memory>
 #include <qt3/Dialog.h>
 #include <qt3/Layout.h>
 #include <vector>
@@ -52,8 +51,8 @@ private:
     const StDialog& m_dialog;
     std::vector<Value> m_values;
     bool m_bShowAdvanced;
-    std::vector<std::unique_ptr<CField>> m_fields; ///< One a parameter; null when it does not show.
-    std::vector<QWidget*> m_labels;                ///< Those of the fields.
+    std::vector<FieldPointer> m_fields; ///< One a parameter; null when it does not show.
+    std::vector<QWidget*> m_labels;     ///< Those of the fields.
 };
 
 } // namespace autodlg

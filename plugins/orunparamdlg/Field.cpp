@@ -1,56 +1,16 @@
 #include "Field.h"
 
-#include "FileField.h"
-#include "NumberFields.h"
-#include "SmallFields.h"
-
+#include <qt3/MessageBox.h>
 #include <qt3/WidgetFunctions.h>
 
 namespace autodlg {
 
-namespace {
+CField::CField(QWidget* widget, QWidget* focusTarget)
+    : m_pWidget(widget), m_pFocusTarget(focusTarget) {}
 
-struct StFieldMaker {
-    const StParameter& parameter;
-    QWidget* parent;
-    const char* name;
-
-    std::unique_ptr<CField> operator()(const StIntegerKind& kind) const {
-        return std::make_unique<CIntegerField>(kind, parent, name);
-    }
-    std::unique_ptr<CField> operator()(const StNumberKind& kind) const {
-        return std::make_unique<CNumberField>(kind, parent, name);
-    }
-    std::unique_ptr<CField> operator()(const StRangeKind& kind) const {
-        return std::make_unique<CRangeField>(kind, parent, name);
-    }
-    std::unique_ptr<CField> operator()(const StTextKind&) const {
-        return std::make_unique<CTextField>(parent, name);
-    }
-    std::unique_ptr<CField> operator()(const StFileKind& kind) const {
-        return std::make_unique<CFileField>(kind, parent, name);
-    }
-    std::unique_ptr<CField> operator()(const StChoiceKind& kind) const {
-        return std::make_unique<CChoiceField>(kind, parent, name);
-    }
-    std::unique_ptr<CField> operator()(const StSwitchKind&) const {
-        return std::make_unique<CSwitchField>(parameter.label, parent, name);
-    }
-    std::unique_ptr<CField> operator()(const StColorKind&) const {
-        return std::make_unique<CColorField>(parent, name);
-    }
-};
-
-} // namespace
-
-CField::CField() = default;
 CField::~CField() = default;
 
-QWidget* CField::focusTarget() const {
-    return widget();
-}
-
-bool CField::hasOwnLabel() const {
+bool CField::takesLabel(const QString&) {
     return false;
 }
 
@@ -68,13 +28,20 @@ bool CField::isAcceptable(QWidget*, const QString&) {
     return true;
 }
 
+FieldPointer createField(const StParameter& parameter, QWidget* parent) {
+    const std::string name = joined(parameter.path);
+    return std::visit([&](const auto& kind) { return createField(kind, parent, name.c_str()); },
+                      parameter.kind);
+}
+
 int usualTextWidth(const QWidget* widget) {
     return qt3::textWidth(widget, "a text of thirty characters...");
 }
 
-std::unique_ptr<CField> createField(const StParameter& parameter, QWidget* parent) {
-    const std::string name = joined(parameter.path);
-    return std::visit(StFieldMaker{parameter, parent, name.c_str()}, parameter.kind);
+bool refuse(QWidget* window, const QString& caption, const QString& text) {
+    qt3::MessageBox::warning(window, caption, text, qt3::MessageBox::Ok | qt3::MessageBox::Default,
+                             0);
+    return false;
 }
 
 } // namespace autodlg

@@ -1,8 +1,11 @@
-#include "NumberFields.h"
+#include "Field.h"
 
+#include <CDoubleSpinBox.h>
+#include <CRangeSliderSpinboxed.h>
 #include <algorithm>
 #include <cmath>
 #include <qt3/Descendants.h>
+#include <qt3/SpinBox.h>
 #include <qt3/Text.h>
 #include <qt3/WidgetFunctions.h>
 
@@ -16,105 +19,120 @@ QString suffixFor(const std::string& unit) {
     return unit.empty() ? QString() : qt3::fromAscii(' ' + unit);
 }
 
-} // namespace
+class CIntegerField : public CFieldOf<qt3::SpinBox> {
+public:
+    CIntegerField(const StIntegerKind& kind, QWidget* parent, const char* name)
+        : CFieldOf(new qt3::SpinBox(static_cast<int>(kind.min), static_cast<int>(kind.max),
+                                    static_cast<int>(kind.step), parent, name)) {
+        m_pEditor->setSuffix(suffixFor(kind.unit));
+    }
 
-CIntegerField::CIntegerField(const StIntegerKind& kind, QWidget* parent, const char* name)
-    : m_pSpinBox(new qt3::SpinBox(static_cast<int>(kind.min), static_cast<int>(kind.max),
-                                  static_cast<int>(kind.step), parent, name)) {
-    m_pSpinBox->setSuffix(suffixFor(kind.unit));
-}
+protected:
+    void show(const Value& value) override {
+        m_pEditor->setValue(static_cast<int>(std::get<long>(value)));
+    }
 
-QWidget* CIntegerField::widget() const {
-    return m_pSpinBox;
-}
+    QString shown() override { return QString::number(m_pEditor->value()); }
+    Value edited() override { return static_cast<long>(m_pEditor->value()); }
+};
 
-void CIntegerField::show(const Value& value) {
-    m_pSpinBox->setValue(static_cast<int>(std::get<long>(value)));
-}
+/// A double spin box that shows a fixed number of decimals, if there is one.
+///
+/// What is typed with more decimals is rounded, so that the value is what shows. From 1e15 on, where a
+/// double has no decimals, numbers show as without it.
+class CNumberBox : public TEVU::CDoubleSpinBox {
+public:
+    CNumberBox(const StNumberKind& kind, QWidget* parent, const char* name)
+        : TEVU::CDoubleSpinBox(kind.min, kind.max, kind.step, parent, name),
+          m_nDecimals(kind.decimals) {
+        setSuffix(suffixFor(kind.unit));
+    }
 
-QString CIntegerField::shown() {
-    return QString::number(m_pSpinBox->value());
-}
+    /// As of the base, but no wider than for a number of usual length: the limits may be far away.
+    QSize sizeHint() const override {
+        const QSize size = TEVU::CDoubleSpinBox::sizeHint();
+        const int usual = qt3::textWidth(this, "-0000000000.00000" + suffix());
+        return QSize(std::min(size.width(), usual + 2 * size.height()), size.height());
+    }
 
-Value CIntegerField::edited() {
-    return static_cast<long>(m_pSpinBox->value());
-}
+protected:
+    QString mapValueToText(double v) override {
+        return showsDecimals(v) ? qt3::number(v, 'f', *m_nDecimals)
+                                : TEVU::CDoubleSpinBox::mapValueToText(v);
+    }
 
-CNumberBox::CNumberBox(const StNumberKind& kind, QWidget* parent, const char* name)
-    : TEVU::CDoubleSpinBox(kind.min, kind.max, kind.step, parent, name),
-      m_nDecimals(kind.decimals) {
-    setSuffix(suffixFor(kind.unit));
-}
+    double mapTextToValue(bool* ok) override {
+        const double typed = TEVU::CDoubleSpinBox::mapTextToValue(ok);
+        return showsDecimals(typed) ? qt3::toDouble(mapValueToText(typed)) : typed;
+    }
 
-QSize CNumberBox::sizeHint() const {
-    const QSize size = TEVU::CDoubleSpinBox::sizeHint();
-    const int usual = qt3::textWidth(this, "-0000000000.00000" + suffix());
-    return QSize(std::min(size.width(), usual + 2 * size.height()), size.height());
-}
+private:
+    bool showsDecimals(double value) const {
+        return m_nDecimals && std::fabs(value) < c_dNoDecimals;
+    }
 
-bool CNumberBox::showsDecimals(double value) const {
-    return m_nDecimals && std::fabs(value) < c_dNoDecimals;
-}
+    std::optional<int> m_nDecimals;
+};
 
-QString CNumberBox::mapValueToText(double v) {
-    return showsDecimals(v) ? qt3::number(v, 'f', *m_nDecimals)
-                            : TEVU::CDoubleSpinBox::mapValueToText(v);
-}
+class CNumberField : public CFieldOf<CNumberBox> {
+public:
+    CNumberField(const StNumberKind& kind, QWidget* parent, const char* name)
+        : CFieldOf(new CNumberBox(kind, parent, name)) {}
 
-double CNumberBox::mapTextToValue(bool* ok) {
-    const double typed = TEVU::CDoubleSpinBox::mapTextToValue(ok);
-    return showsDecimals(typed) ? qt3::toDouble(mapValueToText(typed)) : typed;
-}
+protected:
+    void show(const Value& value) override { m_pEditor->setValue(std::get<double>(value)); }
 
-CNumberField::CNumberField(const StNumberKind& kind, QWidget* parent, const char* name)
-    : m_pBox(new CNumberBox(kind, parent, name)) {}
+    QString shown() override {
+        m_pEditor->value(); // reads typed text
+        return m_pEditor->text();
+    }
 
-QWidget* CNumberField::widget() const {
-    return m_pBox;
-}
-
-void CNumberField::show(const Value& value) {
-    m_pBox->setValue(std::get<double>(value));
-}
-
-QString CNumberField::shown() {
-    m_pBox->value(); // reads typed text
-    return m_pBox->text();
-}
-
-Value CNumberField::edited() {
-    return m_pBox->value();
-}
+    Value edited() override { return m_pEditor->value(); }
+};
 
 // Made with the whole range, because there slider and spin boxes agree from the beginning.
-CRangeField::CRangeField(const StRangeKind& kind, QWidget* parent, const char* name)
-    : m_pRange(new TEVU::CRangeSliderSpinboxed(
-          Qt::Horizontal, false, static_cast<int>(kind.min), static_cast<int>(kind.max),
-          static_cast<int>(kind.min), static_cast<int>(kind.max), parent, name)) {}
-
-QWidget* CRangeField::widget() const {
-    return m_pRange;
+TEVU::CRangeSliderSpinboxed* createRange(const StRangeKind& kind, QWidget* parent,
+                                         const char* name) {
+    const int min = static_cast<int>(kind.min);
+    const int max = static_cast<int>(kind.max);
+    return new TEVU::CRangeSliderSpinboxed(Qt::Horizontal, false, min, max, min, max, parent, name);
 }
 
-QWidget* CRangeField::focusTarget() const {
-    return qt3::child<qt3::SpinBox>(m_pRange);
-}
+class CRangeField : public CFieldOf<TEVU::CRangeSliderSpinboxed> {
+public:
+    explicit CRangeField(TEVU::CRangeSliderSpinboxed* range)
+        : CFieldOf(range, qt3::child<qt3::SpinBox>(range)) {}
 
-void CRangeField::show(const Value& value) {
-    const auto& range = std::get<StRange>(value);
-    m_pRange->SlotSetRange(static_cast<int>(range.lower), static_cast<int>(range.upper));
-}
-
-QString CRangeField::shown() {
-    for (QObject* const object : qt3::descendants(m_pRange)) {
-        if (auto* const spinBox = dynamic_cast<qt3::SpinBox*>(object))
-            spinBox->value(); // reads typed text
+protected:
+    void show(const Value& value) override {
+        const auto& range = std::get<StRange>(value);
+        m_pEditor->SlotSetRange(static_cast<int>(range.lower), static_cast<int>(range.upper));
     }
-    return QString::number(m_pRange->GetLower()) + " " + QString::number(m_pRange->GetUpper());
+
+    QString shown() override {
+        for (QObject* const object : qt3::descendants(m_pEditor)) {
+            if (auto* const spinBox = dynamic_cast<qt3::SpinBox*>(object))
+                spinBox->value(); // reads typed text
+        }
+        return QString::number(m_pEditor->GetLower()) + " " +
+               QString::number(m_pEditor->GetUpper());
+    }
+
+    Value edited() override { return StRange{m_pEditor->GetLower(), m_pEditor->GetUpper()}; }
+};
+
+} // namespace
+
+FieldPointer createField(const StIntegerKind& kind, QWidget* parent, const char* name) {
+    return std::make_unique<CIntegerField>(kind, parent, name);
 }
 
-Value CRangeField::edited() {
-    return StRange{m_pRange->GetLower(), m_pRange->GetUpper()};
+FieldPointer createField(const StNumberKind& kind, QWidget* parent, const char* name) {
+    return std::make_unique<CNumberField>(kind, parent, name);
+}
+
+FieldPointer createField(const StRangeKind& kind, QWidget* parent, const char* name) {
+    return std::make_unique<CRangeField>(createRange(kind, parent, name));
 }
 
 } // namespace autodlg
