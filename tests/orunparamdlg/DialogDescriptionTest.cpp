@@ -1,5 +1,6 @@
 #include "DialogDescription.h"
 
+#include "KeyTable.h"
 #include "Maps.h"
 
 #include <cfloat>
@@ -53,51 +54,6 @@ const StGroup& groupAt(const StGroup& group, std::size_t place) {
 
 std::size_t parameterAt(const StGroup& group, std::size_t place) {
     return std::get<std::size_t>(group.members.at(place).what);
-}
-
-/// The least that each kind of parameter needs, without "default".
-struct KindRow {
-    const char* kind;
-    std::vector<std::pair<const char*, CValue* (*)()>> keys;
-};
-
-CValue* make0() {
-    return whole(0);
-}
-CValue* make9() {
-    return whole(9);
-}
-CValue* makeFilter() {
-    return text("Tables (*.csv)");
-}
-CValue* makeChoices() {
-    return texts({"x", "y"});
-}
-
-const KindRow c_kinds[] = {{"integer", {}},
-                           {"number", {}},
-                           {"range", {{"min", make0}, {"max", make9}}},
-                           {"text", {}},
-                           {"open file", {}},
-                           {"open files", {}},
-                           {"save file", {{"filter", makeFilter}}},
-                           {"choice", {{"choices", makeChoices}}},
-                           {"switch", {}},
-                           {"color", {}}};
-
-/// An entry "a" of that kind with what it needs, but for \a without.
-TEVU::CValueMap leastEntry(const std::string& kind, const std::string& without = "") {
-    CValueMap entry = taken(map({{"kind", text(kind.c_str())}, {"key", text("a")}}));
-    for (const KindRow& row : c_kinds) {
-        if (row.kind != kind)
-            continue;
-        for (const auto& [key, make] : row.keys)
-            entry.SetEntry(key, make());
-    }
-    if (kind == "group")
-        entry.SetEntry("entries", list({}));
-    entry.RemoveEntry(without);
-    return entry;
 }
 
 std::string quoted(const std::string& key) {
@@ -385,79 +341,17 @@ TEST(DialogDescriptionTest, EveryEntryIsAMap) {
 
 namespace {
 
-/// A key of an entry, the kind of entry that it belongs to ("" for the dialog), and its type.
-struct KeyRow {
-    const char* kind;
-    const char* key;
-    Type type;
-    bool needed;
-};
-
-void PrintTo(const KeyRow& row, std::ostream* out) {
-    *out << row.kind << '/' << row.key;
-}
-
-const KeyRow c_keys[] = {
-    {"", "title", String, false},
-    {"", "entries", Vector, true},
-    {"group", "kind", String, true},
-    {"group", "title", String, false},
-    {"group", "key", String, false},
-    {"group", "help", String, false},
-    {"group", "advanced", Bool, false},
-    {"group", "entries", Vector, true},
-    {"integer", "kind", String, true},
-    {"integer", "key", String, true},
-    {"integer", "label", String, false},
-    {"integer", "help", String, false},
-    {"integer", "advanced", Bool, false},
-    {"integer", "default", Long, false},
-    {"integer", "min", Long, false},
-    {"integer", "max", Long, false},
-    {"integer", "step", Long, false},
-    {"integer", "unit", String, false},
-    {"number", "default", Double, false},
-    {"number", "min", Double, false},
-    {"number", "max", Double, false},
-    {"number", "step", Double, false},
-    {"number", "decimals", Long, false},
-    {"number", "unit", String, false},
-    {"range", "default", Map, false},
-    {"range", "min", Long, true},
-    {"range", "max", Long, true},
-    {"text", "default", String, false},
-    {"open file", "default", String, false},
-    {"open file", "filter", String, false},
-    {"open file", "required", Bool, false},
-    {"open files", "default", Vector, false},
-    {"open files", "filter", String, false},
-    {"open files", "required", Bool, false},
-    {"save file", "default", String, false},
-    {"save file", "filter", String, true},
-    {"save file", "required", Bool, false},
-    {"choice", "default", String, false},
-    {"choice", "choices", Vector, true},
-    {"choice", "labels", Vector, false},
-    {"switch", "default", Bool, false},
-    {"color", "default", String, false},
-};
-
-class DialogDescriptionKeys : public testing::TestWithParam<KeyRow> {
+class DialogDescriptionKeys : public testing::TestWithParam<StKeyRow> {
 protected:
     static std::string refusalOf(const CValueMap& owner) {
         return GetParam().kind[0] ? entryRefusal(owner.Clone()) : refusal(owner);
     }
 
-    /// The entry or the dialog that has the key, with what else it needs.
-    static CValueMap owner() {
-        return GetParam().kind[0] ? leastEntry(GetParam().kind, GetParam().key)
-                                  : dialogWithoutKey();
-    }
-
-    static CValueMap dialogWithoutKey() {
-        CValueMap dialog = dialogOf({});
-        dialog.RemoveEntry(GetParam().key);
-        return dialog;
+    /// The entry or the dialog with what else it needs.
+    static CValueMap ownerWithoutKey() {
+        CValueMap owner = leastOf(GetParam().kind);
+        owner.RemoveEntry(GetParam().key);
+        return owner;
     }
 
     /// How a complaint names it: by its key, unless that is what is wrong.
@@ -474,7 +368,7 @@ TEST_P(DialogDescriptionKeys, AreOfTheirTypeOnly) {
     for (const Type type : c_allTypes) {
         if (sameType(type, GetParam().type))
             continue;
-        CValueMap wrong = owner();
+        CValueMap wrong = ownerWithoutKey();
         wrong.SetEntry(GetParam().key, sample(type));
         EXPECT_EQ(refusalOf(wrong), subject() + ": " + quoted(GetParam().key) + " must be " +
                                         inWords(GetParam().type) + ", not " + inWords(type));
@@ -482,31 +376,30 @@ TEST_P(DialogDescriptionKeys, AreOfTheirTypeOnly) {
 }
 
 TEST_P(DialogDescriptionKeys, AreMissingWhereTheyAreNeededOnly) {
-    EXPECT_EQ(refusalOf(owner()),
+    EXPECT_EQ(refusalOf(ownerWithoutKey()),
               GetParam().needed ? subject() + ": " + quoted(GetParam().key) + " is missing" : "");
 }
 
-INSTANTIATE_TEST_SUITE_P(All, DialogDescriptionKeys, testing::ValuesIn(c_keys));
+INSTANTIATE_TEST_SUITE_P(All, DialogDescriptionKeys, testing::ValuesIn(keyTable()));
 
 namespace {
 
-class DialogDescriptionKinds : public testing::TestWithParam<KindRow> {};
+class DialogDescriptionKinds : public testing::TestWithParam<std::string> {};
 
 } // namespace
 
 TEST_P(DialogDescriptionKinds, HaveNoOtherKeys) {
     for (const char* key : {"Min", "tooltip", "entries", "title", "3"}) {
-        CValueMap entry = leastEntry(GetParam().kind);
+        CValueMap entry = leastOf(GetParam());
         entry.SetEntry(key, nullPointer());
-        EXPECT_EQ(entryRefusal(entry.Clone()), "entry \"a\": " + quoted(key) +
-                                                   " is no key of the kind " +
-                                                   quoted(GetParam().kind));
+        EXPECT_EQ(entryRefusal(entry.Clone()),
+                  "entry \"a\": " + quoted(key) + " is no key of the kind " + quoted(GetParam()));
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, DialogDescriptionKinds, testing::ValuesIn(c_kinds),
+INSTANTIATE_TEST_SUITE_P(All, DialogDescriptionKinds, testing::ValuesIn(parameterKinds()),
                          [](const auto& row) {
-                             std::string name = row.param.kind;
+                             std::string name = row.param;
                              for (char& c : name)
                                  c = c == ' ' ? '_' : c;
                              return name;
