@@ -19,7 +19,7 @@ const char* const c_sCheckTypes = "check types";
 const char* const c_sTypes = "types";
 const char* const c_sCheckSizes = "check sizes";
 const char* const c_sSizes = "sizes";
-const std::size_t c_nTypesInARow = 3;
+const std::size_t c_nTypesInALine = 3;
 
 } // namespace
 
@@ -35,9 +35,9 @@ FilterPanel::FilterPanel(QWidget* parent, const char* name)
 
 void FilterPanel::addTypes(qt3::GroupBox* box, qt3::VBoxLayout* column) {
     m_pCheckTypes = addSwitch(box, column, "Only these types:", true, this, SLOT(tell()));
-    qt3::HBoxLayout* line = nullptr;
+    auto* line = new qt3::HBoxLayout(column, 6);
     for (const TEVU::IImage::CType& type : allTypes()) {
-        if (m_types.size() % c_nTypesInARow == 0)
+        if (!m_types.empty() && m_types.size() % c_nTypesInALine == 0)
             line = new qt3::HBoxLayout(column, 6);
         auto* option = new qt3::CheckBox(qt3::fromAscii(textOf(type)), box);
         option->setChecked(type == TEVU::IImage::CType::eUInt8);

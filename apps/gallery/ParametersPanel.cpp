@@ -11,15 +11,15 @@ using namespace TEVU;
 
 namespace {
 
-std::string textOf(const CValue& value) {
+std::string textOf(const CValue* value) {
     std::ostringstream text;
-    if (const auto* const flag = dynamic_cast<const CValueBool*>(&value))
+    if (const auto* const flag = dynamic_cast<const CValueBool*>(value))
         text << (flag->Bool() ? "on" : "off");
-    else if (const auto* const whole = dynamic_cast<const CValueLong*>(&value))
+    else if (const auto* const whole = dynamic_cast<const CValueLong*>(value))
         text << whole->Long();
-    else if (const auto* const number = dynamic_cast<const CValueDouble*>(&value))
+    else if (const auto* const number = dynamic_cast<const CValueDouble*>(value))
         text << number->Double();
-    else if (const auto* const string = dynamic_cast<const CValueString*>(&value))
+    else if (const auto* const string = dynamic_cast<const CValueString*>(value))
         text << '"' << string->String() << '"';
     return text.str();
 }
@@ -28,9 +28,9 @@ std::string textOf(const CValue& value) {
 std::string linesOf(const CValueContainerBase& container, const std::string& path) {
     std::string lines;
     for (const CValue_Key& key : container.Keys()) {
-        const CValue& value = *container.Entry(key, true);
+        const CValue* const value = container.Entry(key, true);
         const std::string place = path + key.String();
-        if (const auto* const inner = dynamic_cast<const CValueContainerBase*>(&value))
+        if (const auto* const inner = dynamic_cast<const CValueContainerBase*>(value))
             lines += linesOf(*inner, place + '/');
         else
             lines += place + ": " + textOf(value) + '\n';
