@@ -49,9 +49,9 @@ public:
 
     /// The images of \a input that pass, by name. Without a list of images in the input, the result of
     /// the call before is returned again. Elements of another form are left out; none is an error.
-    /// \throws nothing of its own. Pointers are unwrapped once their type is known, so that the
-    ///         CExBadParam of UnwrapPointer() can come only from a value that lies about its type. After
-    ///         that, or after std::bad_alloc, a call without a list returns some of the images or none.
+    /// \throws nothing of its own: pointers are unwrapped once their type is known, so that
+    ///         UnwrapPointer() has nothing to refuse. After std::bad_alloc a call without a list returns
+    ///         some of the images, or none.
     std::map<std::string, const CImage*> operator()(const CValueMap& input);
 
 private:
