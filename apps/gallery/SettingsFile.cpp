@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <fstream>
+#include <memory>
 #include <ruqlib2core/CException.h>
 #include <ruqlib2core/CValueBool.h>
 #include <ruqlib2core/CValueLong.h>
@@ -26,11 +27,11 @@ std::string quoted(const std::string& text) {
 }
 
 /// The string in quotation marks; null when the text is something else.
-CValue* stringFrom(const std::string& text) {
+std::unique_ptr<CValue> stringFrom(const std::string& text) {
     std::string content;
     for (std::size_t i = 1; i < text.size(); ++i) {
         if (text[i] == '"')
-            return i + 1 == text.size() ? new CValueString(content) : nullptr;
+            return i + 1 == text.size() ? std::make_unique<CValueString>(content) : nullptr;
         const bool bEscaped = text[i] == '\\' && i + 1 < text.size();
         const char letter = bEscaped ? text[++i] : text[i];
         content += bEscaped && letter == 'n' ? '\n' : letter;
@@ -38,16 +39,18 @@ CValue* stringFrom(const std::string& text) {
     return nullptr;
 }
 
-CValue* numberFrom(const std::string& text) {
+std::unique_ptr<CValue> numberFrom(const std::string& text) {
     long number = 0;
     const char* const end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, number);
-    return read.ec == std::errc() && read.ptr == end ? new CValueLong(number) : nullptr;
+    if (read.ec != std::errc() || read.ptr != end)
+        return nullptr;
+    return std::make_unique<CValueLong>(number);
 }
 
-CValue* valueFrom(const std::string& text) {
+std::unique_ptr<CValue> valueFrom(const std::string& text) {
     if (text == "true" || text == "false")
-        return new CValueBool(text == "true");
+        return std::make_unique<CValueBool>(text == "true");
     return !text.empty() && text[0] == '"' ? stringFrom(text) : numberFrom(text);
 }
 
@@ -63,11 +66,12 @@ std::string textOf(const CValue& value) {
 
 void readLine(const std::string& line, CValueMap& map) {
     const auto equals = line.find(c_sEquals);
-    CValue* const value =
-        equals == std::string::npos ? nullptr : valueFrom(line.substr(equals + 3));
-    if (!value || equals == 0)
+    std::unique_ptr<CValue> value;
+    if (equals != std::string::npos && equals > 0)
+        value = valueFrom(line.substr(equals + 3));
+    if (!value)
         throw CException(c_sPlace, "this is no entry: " + line);
-    map.SetEntry(line.substr(0, equals), value);
+    map.SetEntry(line.substr(0, equals), value.release());
 }
 
 } // namespace
