@@ -1,11 +1,18 @@
-# Cross-building for 64-bit Windows with Debian's g++-mingw-w64-x86-64-posix.
+# Cross-building for 64-bit Windows with Debian's g++-mingw-w64-x86-64-posix. Libraries for Windows that Debian
+# has no packages of, such as libtiff, are looked for in RUQGUI_WINDOWS_PREFIX.
 
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 
-set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
+if(NOT RUQGUI_WINDOWS_PREFIX)
+    set(RUQGUI_WINDOWS_PREFIX $ENV{HOME}/.cache/ruqgui-windows/prefix)
+endif()
+# The trial builds that test the compilers are configured with this file too.
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES RUQGUI_WINDOWS_PREFIX)
+set(CMAKE_FIND_ROOT_PATH ${RUQGUI_WINDOWS_PREFIX} /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

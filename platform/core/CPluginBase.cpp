@@ -7,7 +7,6 @@
 #include <ruqlib2core/PluginExport.h>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace TEVU {
 
@@ -52,8 +51,8 @@ std::vector<std::string> split(const std::string& text, char separator) {
 }
 
 std::vector<std::string> searchedFolders() {
-    const char* given = std::getenv("RUQ_PLUGIN_PATH");
-    std::vector<std::string> folders = split(given ? given : "", DynamicLibrary::c_cPathSeparator);
+    std::vector<std::string> folders =
+        split(FileSystem::environmentVariable("RUQ_PLUGIN_PATH"), DynamicLibrary::c_cPathSeparator);
     const std::string own = DynamicLibrary::folderOfThisLibrary();
     if (!own.empty()) {
         folders.push_back(own + "/" + RUQLIB2CORE_PLUGINS_FROM_LIBRARY);

@@ -2,15 +2,13 @@
 
 #include "RegistryFile.h"
 
-#include <cstdlib>
-
 namespace TEVU {
 
 namespace {
 
 std::string registryPath() {
-    const char* given = std::getenv("RUQ_REGISTRY");
-    if (given && *given)
+    const std::string given = FileSystem::environmentVariable("RUQ_REGISTRY");
+    if (!given.empty())
         return FileSystem::resolveLinks(FileSystem::absolutePath(given));
     const std::string folder = FileSystem::configurationFolder();
     return folder.empty() ? folder : FileSystem::resolveLinks(folder + "/ruq/registry.json");

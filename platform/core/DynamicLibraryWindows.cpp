@@ -1,6 +1,7 @@
 #include "DynamicLibrary.h"
 
 #include "FileSystem.h"
+#include "WideText.h"
 
 #include <ruqlib2core/CException.h>
 
@@ -19,7 +20,8 @@ void* load(const std::string& path) {
     std::replace(native.begin(), native.end(), '/',
                  '\\'); // the loader insists on its own separator
     // With this flag, what the plug-in needs is looked for beside the plug-in.
-    HMODULE library = ::LoadLibraryExA(native.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    HMODULE library =
+        ::LoadLibraryExW(toWide(native).c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
     if (!library) {
         const int error = static_cast<int>(::GetLastError());
         throw CException("GetNewPluginInstance",
@@ -42,9 +44,9 @@ namespace {
 
 /// Null is the program.
 std::string folderOfModule(HMODULE module) {
-    char path[MAX_PATH];
-    const DWORD length = ::GetModuleFileNameA(module, path, MAX_PATH);
-    return length > 0 && length < MAX_PATH ? FileSystem::folderOf(path) : std::string();
+    wchar_t path[MAX_PATH];
+    const DWORD length = ::GetModuleFileNameW(module, path, MAX_PATH);
+    return length > 0 && length < MAX_PATH ? FileSystem::folderOf(toUtf8(path)) : std::string();
 }
 
 } // namespace
@@ -53,7 +55,7 @@ std::string folderOfThisLibrary() {
     HMODULE module = nullptr;
     const DWORD flags =
         GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
-    if (!::GetModuleHandleExA(flags, reinterpret_cast<const char*>(&c_sEnding), &module))
+    if (!::GetModuleHandleExW(flags, reinterpret_cast<const wchar_t*>(&c_sEnding), &module))
         return std::string();
     return folderOfModule(module);
 }

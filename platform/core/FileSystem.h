@@ -9,8 +9,12 @@
 namespace TEVU {
 
 /// What the library needs of the operating system's files, once for each system. Failures are
-/// CExceptions with the path and the system's reason.
+/// CExceptions with the path and the system's reason. Paths are the system's bytes; on Windows, whose
+/// names are no bytes, they are UTF-8.
 namespace FileSystem {
+
+/// Of this process, in the same bytes as paths; empty when there is none.
+std::string environmentVariable(const char* name);
 
 /// What a look at a file found.
 struct StReading {

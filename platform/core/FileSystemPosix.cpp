@@ -118,6 +118,11 @@ void syncFolder(const std::string& folder) {
 
 } // namespace
 
+std::string environmentVariable(const char* name) {
+    const char* value = std::getenv(name);
+    return value ? value : "";
+}
+
 StReading readFile(const std::string& path, std::size_t largest) {
     // O_NONBLOCK: a pipe at this place must not make the process wait.
     const int opened = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);

@@ -1,7 +1,10 @@
 #include "FileSystem.h"
 
+#include "WideText.h"
+
 #include <ruqlib2core/CException.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <system_error>
 #include <windows.h>
@@ -37,8 +40,8 @@ private:
 const DWORD c_nShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 HANDLE open(const std::string& path, DWORD access, DWORD share, DWORD creation) {
-    return ::CreateFileA(path.c_str(), access, share, nullptr, creation, FILE_ATTRIBUTE_NORMAL,
-                         nullptr);
+    return ::CreateFileW(toWide(path).c_str(), access, share, nullptr, creation,
+                         FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
 std::string versionOf(HANDLE handle) {
@@ -54,9 +57,17 @@ std::string versionOf(HANDLE handle) {
     return version;
 }
 
+bool hasAttribute(const std::string& path, DWORD attribute) {
+    const DWORD attributes = ::GetFileAttributesW(toWide(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute);
+}
+
 bool isFolder(const std::string& path) {
-    const DWORD attributes = ::GetFileAttributesA(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+    return hasAttribute(path, FILE_ATTRIBUTE_DIRECTORY);
+}
+
+bool isReadOnly(const std::string& path) {
+    return hasAttribute(path, FILE_ATTRIBUTE_READONLY);
 }
 
 /// Errors that say nothing about the content: out of resources, or another program has it open.
@@ -95,16 +106,26 @@ void flush(const std::string& path) {
 
 /// Another program, a virus scanner say, may have the target open for a moment.
 void renameOver(const std::string& from, const std::string& to) {
+    // Not left to the rename: some file systems replace what is write-protected.
+    if (isReadOnly(to))
+        fail("NewFile", to, ERROR_ACCESS_DENIED);
+    DWORD error = 0;
     for (int attempt = 0; attempt < 100; ++attempt) {
-        if (::MoveFileExA(from.c_str(), to.c_str(),
+        if (::MoveFileExW(toWide(from).c_str(), toWide(to).c_str(),
                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
             return;
+        error = ::GetLastError();
         ::Sleep(10);
     }
-    fail("NewFile", to, ::GetLastError());
+    fail("NewFile", to, error);
 }
 
 } // namespace
+
+std::string environmentVariable(const char* name) {
+    const wchar_t* value = ::_wgetenv(toWide(name).c_str());
+    return value ? toUtf8(value) : std::string();
+}
 
 StReading readFile(const std::string& path, std::size_t largest) {
     StReading reading;
@@ -133,21 +154,21 @@ std::string versionOf(const std::string& path) {
 }
 
 bool exists(const std::string& path) {
-    return ::GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+    return ::GetFileAttributesW(toWide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
 void renameFile(const std::string& from, const std::string& to) {
-    if (!::MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH))
+    if (!::MoveFileExW(toWide(from).c_str(), toWide(to).c_str(), MOVEFILE_WRITE_THROUGH))
         fail("renameFile", from, ::GetLastError());
 }
 
 void createFolders(const std::string& folder) {
-    if (isFolder(folder) || ::CreateDirectoryA(folder.c_str(), nullptr))
+    if (isFolder(folder) || ::CreateDirectoryW(toWide(folder).c_str(), nullptr))
         return;
     if (::GetLastError() != ERROR_PATH_NOT_FOUND || folderOf(folder) == ".")
         fail("createFolders", folder, ::GetLastError());
     createFolders(folderOf(folder));
-    if (!::CreateDirectoryA(folder.c_str(), nullptr) && !isFolder(folder))
+    if (!::CreateDirectoryW(toWide(folder).c_str(), nullptr) && !isFolder(folder))
         fail("createFolders", folder, ::GetLastError());
 }
 
@@ -156,14 +177,17 @@ std::string resolveLinks(const std::string& path) {
 }
 
 std::string absolutePath(const std::string& path) {
-    char absolute[MAX_PATH];
-    const DWORD length = ::GetFullPathNameA(path.c_str(), MAX_PATH, absolute, nullptr);
-    return length > 0 && length < MAX_PATH ? std::string(absolute, length) : path;
+    wchar_t absolute[MAX_PATH];
+    const DWORD length = ::GetFullPathNameW(toWide(path).c_str(), MAX_PATH, absolute, nullptr);
+    if (length == 0 || length >= MAX_PATH)
+        return path;
+    std::string utf8 = toUtf8(absolute);
+    std::replace(utf8.begin(), utf8.end(), '\\', '/'); // as the toolkit and the callers write it
+    return utf8;
 }
 
 std::string configurationFolder() {
-    const char* configured = std::getenv("APPDATA");
-    return configured ? configured : "";
+    return environmentVariable("APPDATA");
 }
 
 struct Lock::StHandle {
@@ -203,7 +227,7 @@ NewFile::NewFile(const std::string& target) : m_sTarget(target) {
 NewFile::~NewFile() {
     m_pHandle->handle.Close();
     if (!m_sPath.empty())
-        ::DeleteFileA(m_sPath.c_str());
+        ::DeleteFileW(toWide(m_sPath).c_str());
 }
 
 void NewFile::MoveToTarget() {
@@ -214,16 +238,17 @@ void NewFile::MoveToTarget() {
 }
 
 void removeLeftBehind(const std::string& target) {
-    WIN32_FIND_DATAA found = {};
+    WIN32_FIND_DATAW found = {};
     const std::string folder = folderOf(target);
-    const HANDLE search = ::FindFirstFileA((folder + "/*.new").c_str(), &found);
+    const HANDLE search = ::FindFirstFileW(toWide(folder + "/*.new").c_str(), &found);
     if (search == INVALID_HANDLE_VALUE)
         return;
     do {
         // Fails for those that a living process holds.
-        if (isNewFileName(found.cFileName, target))
-            ::DeleteFileA((folder + "/" + found.cFileName).c_str());
-    } while (::FindNextFileA(search, &found));
+        const std::string name = toUtf8(found.cFileName);
+        if (isNewFileName(name, target))
+            ::DeleteFileW(toWide(folder + "/" + name).c_str());
+    } while (::FindNextFileW(search, &found));
     ::FindClose(search);
 }
 

@@ -52,7 +52,8 @@ auto naming(const char* place, const std::string& failure, const std::string& pa
 
 void checkOrdinary(const std::string& path) {
     std::error_code error;
-    const std::filesystem::file_status status = std::filesystem::status(path, error);
+    const std::filesystem::file_status status =
+        std::filesystem::status(std::filesystem::u8path(path), error);
     if (status.type() == std::filesystem::file_type::not_found)
         fail("there is no such file");
     if (status.type() == std::filesystem::file_type::none)
@@ -299,8 +300,9 @@ void writeTiff(const CImage& image, const std::string& path) {
 
 /// The new file will take the place of the old one, which its write protection would not prevent.
 void checkNotProtected(const std::string& path) {
+    const std::filesystem::path file = std::filesystem::u8path(path);
     std::error_code error;
-    if (std::filesystem::is_regular_file(path, error) && !std::ofstream(path, std::ios::app))
+    if (std::filesystem::is_regular_file(file, error) && !std::ofstream(file, std::ios::app))
         fail("the file is write-protected");
 }
 

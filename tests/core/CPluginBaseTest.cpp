@@ -2,6 +2,8 @@
 
 #include "TestFolder.h"
 
+#include <System.h>
+
 #include <ruqlib2core/CException.h>
 #include <ruqlib2core/CValueLong.h>
 #include <ruqlib2core/CValuePointer.h>
@@ -13,6 +15,14 @@
 using namespace TEVU;
 
 namespace {
+
+#ifdef _WIN32
+const char* const c_ending = ".dll";
+const char* const c_separator = ";";
+#else
+const char* const c_ending = ".so";
+const char* const c_separator = ":";
+#endif
 
 class LinkedPlugin : public CPluginBase {
 public:
@@ -64,7 +74,7 @@ bool contains(const std::string& text, const std::string& part) {
 
 class CPluginBaseTest : public testing::Test {
 protected:
-    CPluginBaseTest() { ::setenv("RUQ_PLUGIN_PATH", RUQ_TEST_PLUGINS, 1); }
+    CPluginBaseTest() { support::setVariable("RUQ_PLUGIN_PATH", RUQ_TEST_PLUGINS); }
 };
 
 } // namespace
@@ -110,21 +120,23 @@ TEST_F(CPluginBaseTest, EachCallGivesANewObjectOfTheNamedClass) {
 }
 
 TEST_F(CPluginBaseTest, FoldersOfThePathAreSearchedInOrderAndEmptyOnesSkipped) {
-    ::setenv("RUQ_PLUGIN_PATH", ("::/missing:" RUQ_TEST_PLUGINS ":"), 1);
+    const std::string separator = c_separator;
+    support::setVariable("RUQ_PLUGIN_PATH", separator + separator + "/missing" + separator +
+                                                RUQ_TEST_PLUGINS + separator);
 
     EXPECT_EQ(resultOf("coretest_good::echo"), "");
 }
 
 TEST_F(CPluginBaseTest, FirstFolderWithTheLibraryWins) {
     TestFolder folder;
-    folder.Write("coretest_good.so", "no shared object");
-    ::setenv("RUQ_PLUGIN_PATH", (folder.Path("") + ":" RUQ_TEST_PLUGINS).c_str(), 1);
+    folder.Write(std::string("coretest_good") + c_ending, "no shared object");
+    support::setVariable("RUQ_PLUGIN_PATH", folder.Path("") + c_separator + RUQ_TEST_PLUGINS);
 
     EXPECT_TRUE(contains(refusalOf("coretest_good::echo"), "cannot be loaded"));
 }
 
 TEST_F(CPluginBaseTest, LibraryIsFoundWithoutAPathInThePluginFolderBesideTheLibraryAndTheProgram) {
-    ::unsetenv("RUQ_PLUGIN_PATH");
+    support::unsetVariable("RUQ_PLUGIN_PATH");
 
     EXPECT_EQ(resultOf("coretest_installed::echo"), "");
     EXPECT_EQ(resultOf("coretest_beside_library::echo"), "");
@@ -135,7 +147,7 @@ TEST_F(CPluginBaseTest, LibraryOfAnotherVersionIsRefusedWithBothVersions) {
     const std::string refusal = refusalOf("coretest_other_version::echo");
 
     const int expected = RUQ_PLUGIN_INTERFACE_VERSION;
-    EXPECT_TRUE(contains(refusal, "coretest_other_version.so")) << refusal;
+    EXPECT_TRUE(contains(refusal, std::string("coretest_other_version") + c_ending)) << refusal;
     EXPECT_TRUE(contains(refusal, "version " + std::to_string(expected + 1))) << refusal;
     EXPECT_TRUE(contains(refusal, "expected is " + std::to_string(expected))) << refusal;
 }
@@ -143,20 +155,22 @@ TEST_F(CPluginBaseTest, LibraryOfAnotherVersionIsRefusedWithBothVersions) {
 TEST_F(CPluginBaseTest, SharedObjectThatIsNoPluginIsRefused) {
     const std::string refusal = refusalOf("coretest_no_plugin::echo");
 
-    EXPECT_TRUE(contains(refusal, "coretest_no_plugin.so: is no plug-in library")) << refusal;
+    EXPECT_TRUE(
+        contains(refusal, std::string("coretest_no_plugin") + c_ending + ": is no plug-in library"))
+        << refusal;
 }
 
 TEST_F(CPluginBaseTest, UnknownLibraryIsRefusedWithTheFoldersSearched) {
     const std::string refusal = refusalOf("unknown::echo");
 
-    EXPECT_TRUE(contains(refusal, "unknown.so")) << refusal;
+    EXPECT_TRUE(contains(refusal, std::string("unknown") + c_ending)) << refusal;
     EXPECT_TRUE(contains(refusal, RUQ_TEST_PLUGINS)) << refusal;
 }
 
 TEST_F(CPluginBaseTest, UnknownClassIsRefusedWithItsName) {
     const std::string refusal = refusalOf("coretest_good::unknown");
 
-    EXPECT_TRUE(contains(refusal, "coretest_good.so")) << refusal;
+    EXPECT_TRUE(contains(refusal, std::string("coretest_good") + c_ending)) << refusal;
     EXPECT_TRUE(contains(refusal, "\"unknown\": there is none")) << refusal;
 }
 

@@ -1,70 +1,41 @@
-#include <ruqlib2core/CRegistry.h>
+#include "CRegistryTest.h"
 
-#include "ChildProcess.h"
 #include "CountedValue.h"
-#include "RegistryText.h"
-#include "TestFolder.h"
 
 #include <ruqlib2core/CValueBool.h>
 #include <ruqlib2core/CValueDouble.h>
 #include <ruqlib2core/CValuePointer.h>
-#include <ruqlib2core/CValueString.h>
 
 #include <climits>
 #include <clocale>
 #include <cmath>
 #include <limits>
 #include <random>
-#include <sys/stat.h>
+#include <thread>
 
 using namespace TEVU;
+using namespace registry_tests;
+using support::ChildProcess;
+using support::inChild;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
-/// Each test has a registry file of its own, and looks at the registry in child processes, or once.
-class CRegistryTest : public testing::Test {
-protected:
-    CRegistryTest() { UseFile("registry.json"); }
-
-    void UseFile(const std::string& name) const {
-        ::setenv("RUQ_REGISTRY", m_folder.Path(name).c_str(), 1);
-    }
-
-    RegistryText::Settings SettingsInFile() const {
-        return RegistryText::read(m_folder.Read("registry.json"));
-    }
-
-    TestFolder m_folder;
-};
-
-std::string setAndGet(const std::string& text) {
-    CRegistry::Obj().SetEntry("key", new CValueString(text));
-    return CRegistry::Obj().GetString("key", "missing");
-}
-
-std::size_t linesIn(const std::string& text) {
-    return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
-}
-
-void writeLine(int descriptor, long number) {
-    const std::string line = std::to_string(number) + "\n";
-    if (::write(descriptor, line.data(), line.size()) < 0)
-        ::_exit(4);
+/// For a child.
+std::string setFirst(const ChildProcess::Arguments& text) {
+    return setAndGet(text[0]);
 }
 
 /// Sets one entry after the other for ever, and tells each number when its entry is set.
-void writeForEver(int acknowledgements, long first) {
-    for (long number = first;; ++number) {
+void writeForEver(ChildProcess::Output& acknowledgements, const ChildProcess::Arguments& first) {
+    for (long number = std::stol(first[0]);; ++number) {
         CRegistry::Obj().SetEntry("entry " + std::to_string(number), new CValueLong(number));
-        writeLine(acknowledgements, number);
+        acknowledgements.write(std::to_string(number) + "\n");
     }
 }
 
-void writeMany(const std::string& prefix) {
+void writeMany(ChildProcess::Output&, const ChildProcess::Arguments& prefix) {
     for (int number = 0; number < 100; ++number)
-        CRegistry::Obj().SetEntry(prefix + std::to_string(number), new CValueLong(number));
+        CRegistry::Obj().SetEntry(prefix[0] + std::to_string(number), new CValueLong(number));
 }
 
 } // namespace
@@ -84,7 +55,8 @@ TEST_F(CRegistryTest, StartsEmptyWithoutAWordAndWithoutAFile) {
 
 TEST_F(CRegistryTest, ValuesOfAllFourKindsSurviveExactly) {
     const std::string bytes("\0\xff\xc3\xa4\"bytes:", 12);
-    inChild([&bytes]() -> std::string {
+    const auto setAll = [](const ChildProcess::Arguments& arguments) -> std::string {
+        const std::string& text = arguments[0];
         CRegistry& registry = CRegistry::Obj();
         registry.SetEntry("true", new CValueBool(true));
         registry.SetEntry("lowest", new CValueLong(LONG_MIN));
@@ -93,10 +65,11 @@ TEST_F(CRegistryTest, ValuesOfAllFourKindsSurviveExactly) {
         registry.SetEntry("whole", new CValueDouble(3.0));
         registry.SetEntry("infinity", new CValueDouble(-std::numeric_limits<double>::infinity()));
         registry.SetEntry("nan", new CValueDouble(std::numeric_limits<double>::quiet_NaN()));
-        registry.SetEntry("bytes", new CValueString(bytes));
-        registry.SetEntry(bytes, new CValueString(bytes));
+        registry.SetEntry("bytes", new CValueString(text));
+        registry.SetEntry(text, new CValueString(text));
         return "";
-    });
+    };
+    inChild(setAll, {bytes});
 
     const CRegistry& registry = CRegistry::Obj();
     EXPECT_EQ(registry.Size(), 9u);
@@ -210,7 +183,7 @@ TEST_F(CRegistryTest, EveryOneOfManyQuickChangesIsSeen) {
     // Files of one size that follow each other quickly may get the same number and time.
     for (int number = 10; number < 60; ++number) {
         const std::string text = std::to_string(number);
-        inChild([&text] { return setAndGet(text); });
+        inChild(setFirst, {text});
         ASSERT_EQ(CRegistry::Obj().GetString("key", ""), text);
     }
 }
@@ -253,12 +226,12 @@ TEST_F(CRegistryTest, ChangeKeepsWhatAnotherProcessHasWrittenMeanwhile) {
 }
 
 TEST_F(CRegistryTest, ProcessesThatWriteDifferentKeysLoseNone) {
-    ChildProcess first([](int) { writeMany("first "); });
-    ChildProcess second([](int) { writeMany("second "); });
-    ChildProcess third([](int) { writeMany("third "); });
+    ChildProcess first(writeMany, {"first "});
+    ChildProcess second(writeMany, {"second "});
+    ChildProcess third(writeMany, {"third "});
 
     for (ChildProcess* process : {&first, &second, &third}) {
-        const auto outcome = process->Wait();
+        const auto outcome = process->wait();
         EXPECT_EQ(outcome.status, 0);
         EXPECT_EQ(outcome.errors, "");
     }
@@ -272,14 +245,14 @@ TEST_F(CRegistryTest, ProcessKilledAtAnyMomentLeavesAWholeFileWithEveryAcknowled
     long acknowledged = -1;
     std::size_t roundsWithRemains = 0;
     for (int round = 0; round < 100; ++round) {
-        ChildProcess writer([&](int pipe) { writeForEver(pipe, acknowledged + 1); });
+        ChildProcess writer(writeForEver, {std::to_string(acknowledged + 1)});
         for (unsigned lines = random() % 4 + 1; lines > 0; --lines)
-            acknowledged = std::stol(writer.ReadLine());
-        ::usleep(random() % 3000);
-        writer.Kill();
-        for (std::string line = writer.ReadLine(); !line.empty(); line = writer.ReadLine())
+            acknowledged = std::stol(writer.readLine());
+        std::this_thread::sleep_for(std::chrono::microseconds(random() % 3000));
+        writer.kill();
+        for (std::string line = writer.readLine(); !line.empty(); line = writer.readLine())
             acknowledged = std::stol(line);
-        writer.Wait();
+        writer.wait();
 
         const RegistryText::Settings settings = SettingsInFile();
         for (long number = 0; number <= acknowledged; ++number)
@@ -303,21 +276,8 @@ TEST_F(CRegistryTest, MissingFoldersAreMade) {
     EXPECT_TRUE(std::filesystem::exists(m_folder.Path("some/folder/registry.json")));
 }
 
-TEST_F(CRegistryTest, FileIsInTheUsersConfigurationFolder) {
-    ::unsetenv("RUQ_REGISTRY");
-    ::setenv("XDG_CONFIG_HOME", m_folder.Path("config").c_str(), 1);
-    const auto configured = inChild([] { return CRegistry::Obj().FilePath(); });
-    ::unsetenv("XDG_CONFIG_HOME");
-    ::setenv("HOME", m_folder.Path("home").c_str(), 1);
-    ::setenv("RUQ_REGISTRY", "", 1);
-    const auto byDefault = inChild([] { return CRegistry::Obj().FilePath(); });
-
-    EXPECT_EQ(configured.output, m_folder.Path("config/ruq/registry.json"));
-    EXPECT_EQ(byDefault.output, m_folder.Path("home/.config/ruq/registry.json"));
-}
-
 TEST_F(CRegistryTest, RelativePathIsThatOfTheFirstLook) {
-    ::setenv("RUQ_REGISTRY", "relative.json", 1);
+    support::setVariable("RUQ_REGISTRY", "relative.json");
     std::filesystem::current_path(m_folder.Path(""));
     const auto outcome = inChild([] {
         CRegistry::Obj();
@@ -328,16 +288,6 @@ TEST_F(CRegistryTest, RelativePathIsThatOfTheFirstLook) {
 
     EXPECT_EQ(outcome.errors, "");
     EXPECT_EQ(m_folder.Names(), (Names{"relative.json", "relative.json.lock"}));
-}
-
-TEST_F(CRegistryTest, LinkToTheFileStaysALink) {
-    m_folder.Write("real.json", "{}");
-    std::filesystem::create_symlink("real.json", m_folder.Path("registry.json"));
-
-    inChild([] { return setAndGet("text"); });
-
-    EXPECT_TRUE(std::filesystem::is_symlink(m_folder.Path("registry.json")));
-    EXPECT_EQ(SettingsInFile().size(), 1u);
 }
 
 TEST_F(CRegistryTest, CorruptFileIsKeptAsideWithALineAndTheRegistryStartsEmpty) {
@@ -381,43 +331,13 @@ TEST_F(CRegistryTest, HostileFilesAreKeptAside) {
     EXPECT_EQ(inChild([] { return setAndGet("text"); }).output, "text");
 
     m_folder.Write("registry.json", "");
-    std::filesystem::resize_file(m_folder.Path("registry.json"), 1ull << 40); // takes no place
+    std::filesystem::resize_file(m_folder.Path("registry.json"), 65ull << 20);
     const auto outcome = inChild([] { return setAndGet("text"); });
 
     EXPECT_EQ(outcome.output, "text");
     EXPECT_EQ(linesIn(outcome.errors), 1u) << outcome.errors;
     EXPECT_EQ(SettingsInFile().size(), 1u);
     EXPECT_TRUE(std::filesystem::exists(m_folder.Path("registry.json.unreadable-2")));
-}
-
-TEST_F(CRegistryTest, FileThatMayNotBeReadIsKeptAside) {
-    m_folder.Write("registry.json", "{\"key\": \"secret\"}");
-    ASSERT_EQ(::chmod(m_folder.Path("registry.json").c_str(), 0), 0);
-
-    const auto outcome = asOrdinaryUser([] { return setAndGet("text"); });
-
-    EXPECT_EQ(outcome.output, "text");
-    EXPECT_EQ(linesIn(outcome.errors), 1u) << outcome.errors;
-    EXPECT_EQ(SettingsInFile().size(), 1u);
-    EXPECT_TRUE(std::filesystem::exists(m_folder.Path("registry.json.unreadable-1")));
-}
-
-TEST_F(CRegistryTest, FileThatMayNeitherBeReadNorMovedStays) {
-    m_folder.Write("registry.json", "{\"key\": \"secret\"}");
-    ASSERT_EQ(::chmod(m_folder.Path("registry.json").c_str(), 0), 0);
-    ASSERT_EQ(::chmod(m_folder.Path("").c_str(), 0555), 0);
-
-    const auto outcome = asOrdinaryUser([] {
-        const std::string found = CRegistry::Obj().GetString("key", "missing");
-        return found + "," + setAndGet("text");
-    });
-
-    EXPECT_EQ(outcome.output, "missing,text");
-    EXPECT_EQ(linesIn(outcome.errors), 2u)
-        << outcome.errors; // one for the look, one for the change
-    EXPECT_EQ(m_folder.Names(), Names{"registry.json"});
-    ASSERT_EQ(::chmod(m_folder.Path("registry.json").c_str(), 0600), 0);
-    EXPECT_EQ(m_folder.Read("registry.json"), "{\"key\": \"secret\"}");
 }
 
 TEST_F(CRegistryTest, FolderInPlaceOfTheFileCostsALineAndIsLeftAlone) {
@@ -433,76 +353,26 @@ TEST_F(CRegistryTest, FolderInPlaceOfTheFileCostsALineAndIsLeftAlone) {
     EXPECT_EQ(m_folder.Read("registry.json/precious"), "data");
 }
 
-TEST_F(CRegistryTest, PipeInPlaceOfTheFileDoesNotMakeTheProcessWait) {
-    ASSERT_EQ(::mkfifo(m_folder.Path("registry.json").c_str(), 0666), 0);
-
-    const auto outcome = inChild([] { return setAndGet("text"); });
-
-    EXPECT_EQ(outcome.output, "text");
-    EXPECT_TRUE(std::filesystem::is_fifo(m_folder.Path("registry.json")));
-}
-
-TEST_F(CRegistryTest, FolderThatCannotBeWrittenCostsALineAndTheValueHolds) {
-    m_folder.Write("registry.json", "{\"old\": 1}");
-    ASSERT_EQ(::chmod(m_folder.Path("").c_str(), 0555), 0);
-
-    const auto outcome = asOrdinaryUser([] {
-        std::ostringstream seen;
-        seen << setAndGet("text") << " " << CRegistry::Obj().EntryLong("old", 0);
-        seen << " " << CRegistry::Obj().RemoveEntry("old");
-        seen << " " << CRegistry::Obj().HasEntry("old");
-        return seen.str();
-    });
-
-    EXPECT_EQ(outcome.output, "text 1 1 0");
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(linesIn(outcome.errors), 2u) << outcome.errors; // one a change
-    EXPECT_NE(outcome.errors.find("Permission denied"), std::string::npos) << outcome.errors;
-    EXPECT_EQ(m_folder.Read("registry.json"), "{\"old\": 1}");
-}
-
 TEST_F(CRegistryTest, FoldersThatCannotBeMadeCostALine) {
-    ::setenv("RUQ_REGISTRY", "/proc/none/registry.json", 1);
+    m_folder.Write("file", "in the place of a folder");
+    UseFile("file/none/registry.json");
 
     const auto outcome = inChild([] { return setAndGet("text"); });
 
     EXPECT_EQ(outcome.output, "text");
     EXPECT_EQ(linesIn(outcome.errors), 1u) << outcome.errors;
-}
-
-TEST_F(CRegistryTest, ChangeThatCouldNotBeWrittenGoesToTheFileWithTheNextThatCan) {
-    const auto outcome = asOrdinaryUser([this] {
-        std::filesystem::permissions(m_folder.Path(""), std::filesystem::perms(0555));
-        setAndGet("text");
-        std::filesystem::permissions(m_folder.Path(""), std::filesystem::perms(0755));
-        CRegistry::Obj().SetEntry("other", new CValueLong(1));
-        return std::string();
-    });
-
-    EXPECT_EQ(linesIn(outcome.errors), 1u) << outcome.errors;
-    EXPECT_EQ(SettingsInFile(),
-              (RegistryText::Settings{{"key", std::string("text")}, {"other", 1L}}));
-}
-
-TEST_F(CRegistryTest, SameValueIsTriedAgainWhenItCouldNotBeWritten) {
-    asOrdinaryUser([this] {
-        std::filesystem::permissions(m_folder.Path(""), std::filesystem::perms(0555));
-        setAndGet("text");
-        std::filesystem::permissions(m_folder.Path(""), std::filesystem::perms(0755));
-        return setAndGet("text");
-    });
-
-    EXPECT_EQ(SettingsInFile(), (RegistryText::Settings{{"key", std::string("text")}}));
 }
 
 TEST_F(CRegistryTest, DecimalPointOfTheLocaleDoesNotMatter) {
     m_folder.Write("registry.json", "{\"half\": 0.5}");
     for (const char* locale : {"de_DE.UTF-8", "fr_FR.UTF-8", "C"}) {
-        const auto outcome = inChild([locale] {
-            std::setlocale(LC_ALL, locale);
-            CRegistry::Obj().SetEntry("quarter", new CValueDouble(0.25));
-            return std::to_string(CRegistry::Obj().EntryDouble("half", 0) == 0.5);
-        });
+        const auto outcome = inChild(
+            [](const ChildProcess::Arguments& name) {
+                std::setlocale(LC_ALL, name[0].c_str());
+                CRegistry::Obj().SetEntry("quarter", new CValueDouble(0.25));
+                return std::to_string(CRegistry::Obj().EntryDouble("half", 0) == 0.5);
+            },
+            {locale});
         EXPECT_EQ(outcome.output, "1") << locale;
         EXPECT_EQ(SettingsInFile().at("quarter"), RegistryText::Scalar(0.25));
     }

@@ -1,24 +1,24 @@
 #ifndef RUQLIB2CORE_TESTFOLDER_H
 #define RUQLIB2CORE_TESTFOLDER_H
 
-#include <gtest/gtest.h>
+#include <System.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <sstream>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 /// A folder of a test's own, gone with it. It belongs to the ordinary user of asOrdinaryUser().
 class TestFolder {
 public:
     TestFolder() {
-        std::string pattern = testing::TempDir() + "/core-XXXXXX";
-        m_sPath = ::mkdtemp(pattern.data());
-        GiveAway("");
+        const std::filesystem::path temporary = std::filesystem::temp_directory_path();
+        m_sPath = support::makeFreshFolder((temporary / "core-").generic_string());
+        EXPECT_NE(m_sPath, "");
+        support::giveAway(m_sPath, c_nOrdinaryUser);
     }
     TestFolder(const TestFolder&) = delete;
     TestFolder& operator=(const TestFolder&) = delete;
@@ -48,12 +48,6 @@ public:
             names.push_back(entry.path().filename().string());
         std::sort(names.begin(), names.end());
         return names;
-    }
-
-    void GiveAway(const std::string& name) const {
-        if (::geteuid() != 0)
-            return;
-        EXPECT_EQ(::chown(Path(name).c_str(), c_nOrdinaryUser, c_nOrdinaryUser), 0);
     }
 
     static constexpr unsigned c_nOrdinaryUser = 65534; ///< nobody

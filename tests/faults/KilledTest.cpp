@@ -1,10 +1,11 @@
 // Processes that save one thing after the other and are killed at some moment.
 
-#include "ChildProcess.h"
 #include "Rounds.h"
 #include "StoredImage.h"
 #include "StoredRegistry.h"
 
+#include <ChildProcess.h>
+#include <System.h>
 #include <ruqlib2core/CRegistry.h>
 #include <ruqlib2core/CValueLong.h>
 
@@ -13,6 +14,8 @@
 #include <unistd.h>
 
 using namespace TEVU;
+using support::ChildProcess;
+using support::inChild;
 
 namespace {
 
@@ -21,41 +24,43 @@ const int c_nEveryday = 60;
 const unsigned c_nMostAwaited = 3;    // saves
 const unsigned c_nLongestRest = 3000; // microseconds, some saves' worth
 
-void acknowledge(int descriptor, long number) {
-    const std::string line = std::to_string(number) + "\n";
-    if (::write(descriptor, line.data(), line.size()) < 0)
-        ::_exit(4);
+using Save = void (*)(const std::string& path, long number);
+
+/// Saves for ever, each time with the next number from 1 on, and acknowledges each.
+template <Save save>
+void saveForEver(ChildProcess::Output& output, const ChildProcess::Arguments& path) {
+    for (long number = 1;; ++number) {
+        save(path[0], number);
+        output.write(std::to_string(number) + "\n");
+    }
 }
 
-/// Lets \a save run for ever in a process, each time with the next number from 1 on, and kills the
-/// process; the last number that was acknowledged, or 0.
-long lastBeforeTheKill(const std::function<void(long)>& save, std::mt19937& random) {
-    ChildProcess process([&](int descriptor) {
-        for (long number = 1;; ++number) {
-            save(number);
-            acknowledge(descriptor, number);
-        }
-    });
+/// Lets \a task run in a process and kills it; the last number that was acknowledged, or 0.
+long lastBeforeTheKill(ChildProcess::Task task, const std::string& path, std::mt19937& random) {
+    ChildProcess process(task, {path});
     long last = 0;
     for (unsigned awaited = random() % (c_nMostAwaited + 1); awaited > 0; --awaited)
-        last = std::stol(process.ReadLine());
+        last = std::stol(process.readLine());
     ::usleep(random() % c_nLongestRest);
-    process.Kill();
-    for (std::string line = process.ReadLine(); !line.empty(); line = process.ReadLine())
+    process.kill();
+    for (std::string line = process.readLine(); !line.empty(); line = process.readLine())
         last = std::stol(line);
     return last;
 }
 
 void saveInRegistry(const std::string& path, long number) {
-    ::setenv("RUQ_REGISTRY", path.c_str(), 1);
+    support::setVariable("RUQ_REGISTRY", path);
     CRegistry::Obj().SetEntry("number", new CValueLong(number));
 }
 
+void saveImage(const std::string& path, long number) {
+    StoredImage::SaveAs(path, static_cast<int>(number % 256));
+}
+
 long numberInRegistry(const std::string& path) {
-    const auto outcome = inChild([&] {
-        ::setenv("RUQ_REGISTRY", path.c_str(), 1);
-        return std::to_string(CRegistry::Obj().EntryLong("number", 0));
-    });
+    support::setVariable("RUQ_REGISTRY", path);
+    const auto outcome =
+        inChild([] { return std::to_string(CRegistry::Obj().EntryLong("number", 0)); });
     EXPECT_EQ(outcome.errors, "");
     return std::stol(outcome.output);
 }
@@ -68,8 +73,7 @@ TEST(KilledWhileSaving, RegistryIsWholeAndHasWhatWasAcknowledged) {
     const int wanted = rounds(c_nEveryday);
     for (int round = 0; round < wanted; ++round) {
         const StoredRegistry stored;
-        const long last =
-            lastBeforeTheKill([&](long number) { saveInRegistry(stored.Path(), number); }, random);
+        const long last = lastBeforeTheKill(saveForEver<saveInRegistry>, stored.Path(), random);
         const long found = numberInRegistry(stored.Path());
         ASSERT_TRUE(found == last || found == last + 1)
             << "round " << round << ": " << last << " acknowledged, " << found << " stored";
@@ -88,8 +92,7 @@ TEST(KilledWhileSaving, ImageIsWholeAndIsTheOneThatWasAcknowledged) {
     for (int round = 0; round < wanted; ++round) {
         const StoredImage stored;
         stored.Save(0);
-        const long last = lastBeforeTheKill(
-            [&](long number) { stored.Save(static_cast<int>(number % 256)); }, random);
+        const long last = lastBeforeTheKill(saveForEver<saveImage>, stored.Path(), random);
         const int found = stored.Pixel();
         ASSERT_TRUE(found == last % 256 || found == (last + 1) % 256)
             << "round " << round << ": " << last << " acknowledged, " << found << " stored";

@@ -1,20 +1,21 @@
 // Eight processes that write to one registry, each to a key of its own and to one that all share,
 // while this one looks at the file.
 
-#include "ChildProcess.h"
 #include "RegistryText.h"
 #include "Rounds.h"
 #include "TestFolder.h"
 
+#include <ChildProcess.h>
+#include <System.h>
 #include <ruqlib2core/CRegistry.h>
 #include <ruqlib2core/CValueLong.h>
 
 #include <gtest/gtest.h>
 #include <iostream>
 #include <memory>
-#include <unistd.h>
 
 using namespace TEVU;
+using support::ChildProcess;
 
 namespace {
 
@@ -25,8 +26,11 @@ std::string ownKey(int writer) {
     return "own " + std::to_string(writer);
 }
 
-void writeNumbers(const std::string& path, int writer, int count) {
-    ::setenv("RUQ_REGISTRY", path.c_str(), 1);
+/// The arguments: the registry's file, the writer, and how many numbers.
+void writeNumbers(ChildProcess::Output&, const ChildProcess::Arguments& arguments) {
+    const int writer = std::stoi(arguments[1]);
+    const int count = std::stoi(arguments[2]);
+    support::setVariable("RUQ_REGISTRY", arguments[0]);
     for (int number = 1; number <= count; ++number) {
         CRegistry::Obj().SetEntry(ownKey(writer), new CValueLong(number));
         CRegistry::Obj().SetEntry("shared", new CValueLong(writer * c_nPerWriter + number));
@@ -34,9 +38,11 @@ void writeNumbers(const std::string& path, int writer, int count) {
 }
 
 /// The numbers under the writers' own keys; reading throws when the file is torn.
-std::vector<long> ownNumbers(const TestFolder& folder) {
+std::vector<long> ownNumbers(const std::string& path) {
     std::vector<long> numbers(c_nWriters, 0);
-    const auto settings = RegistryText::read(folder.Read("registry.json"));
+    std::ostringstream bytes;
+    bytes << std::ifstream(path, std::ios::binary).rdbuf();
+    const auto settings = RegistryText::read(bytes.str());
     for (int writer = 0; writer < c_nWriters; ++writer) {
         const auto found = settings.find(ownKey(writer));
         if (found != settings.end())
@@ -46,11 +52,11 @@ std::vector<long> ownNumbers(const TestFolder& folder) {
 }
 
 /// Looks until every own number is \a count, and tells how often, or what it saw.
-std::string lookUntilComplete(const TestFolder& folder, long count) {
+std::string lookUntilComplete(const std::string& path, long count) {
     std::vector<long> before(c_nWriters, 0);
     long looks = 0;
     while (before != std::vector<long>(c_nWriters, count)) {
-        const std::vector<long> now = ownNumbers(folder);
+        const std::vector<long> now = ownNumbers(path);
         for (std::size_t writer = 0; writer < now.size(); ++writer) {
             if (now[writer] < before[writer])
                 return "writer " + std::to_string(writer) + " lost a value";
@@ -61,32 +67,39 @@ std::string lookUntilComplete(const TestFolder& folder, long count) {
     return std::to_string(looks) + " looks";
 }
 
+std::string look(const ChildProcess::Arguments& arguments) {
+    return lookUntilComplete(arguments[0], std::stol(arguments[1])) + "\n";
+}
+
 } // namespace
 
 TEST(ManyWriters, LoseNothingAndTearNothing) {
     const TestFolder folder;
     const int count = rounds(40);
-    ChildProcess([&](int) { writeNumbers(folder.Path("registry.json"), 0, 1); }).Wait();
-    ChildProcess looker([&](int descriptor) {
-        const std::string seen = lookUntilComplete(folder, count) + "\n";
-        if (::write(descriptor, seen.data(), seen.size()) < 0)
-            ::_exit(4);
-    });
+    const std::string path = folder.Path("registry.json");
+    ChildProcess(writeNumbers, {path, "0", "1"}).wait();
+    ChildProcess looker(
+        [](ChildProcess::Output& output, const ChildProcess::Arguments& arguments) {
+            output.write(look(arguments));
+        },
+        {path, std::to_string(count)});
     std::vector<std::unique_ptr<ChildProcess>> writers;
-    for (int writer = 0; writer < c_nWriters; ++writer)
-        writers.push_back(std::make_unique<ChildProcess>(
-            [&, writer](int) { writeNumbers(folder.Path("registry.json"), writer, count); }));
+    for (int writer = 0; writer < c_nWriters; ++writer) {
+        const ChildProcess::Arguments arguments = {path, std::to_string(writer),
+                                                   std::to_string(count)};
+        writers.push_back(std::make_unique<ChildProcess>(writeNumbers, arguments));
+    }
     for (const auto& writer : writers) {
-        const auto outcome = writer->Wait();
+        const auto outcome = writer->wait();
         EXPECT_EQ(outcome.status, 0);
         EXPECT_EQ(outcome.errors, "");
     }
 
-    ASSERT_EQ(ownNumbers(folder), std::vector<long>(c_nWriters, count));
+    ASSERT_EQ(ownNumbers(path), std::vector<long>(c_nWriters, count));
     const auto settings = RegistryText::read(folder.Read("registry.json"));
     EXPECT_EQ(std::get<long>(settings.at("shared")) % c_nPerWriter, count);
     EXPECT_EQ(folder.Names(), (std::vector<std::string>{"registry.json", "registry.json.lock"}));
-    const auto seen = looker.Wait();
+    const auto seen = looker.wait();
     EXPECT_EQ(seen.errors, "");
     EXPECT_NE(seen.output.find(" looks"), std::string::npos) << seen.output;
     std::cout << c_nWriters << " writers, " << 2 * count << " writes each, " << seen.output;

@@ -22,9 +22,13 @@ std::string StoredImage::Path() const {
 }
 
 void StoredImage::Save(int pixel) const {
+    SaveAs(Path(), pixel);
+}
+
+void StoredImage::SaveAs(const std::string& path, int pixel) {
     CImage image(IImage::CType::eUInt8, CSize(64, 64));
     std::fill_n(image.Data(), image.ByteCount(), static_cast<unsigned char>(pixel));
-    CImageFile::Write(image, Path());
+    CImageFile::Write(image, path);
 }
 
 int StoredImage::Pixel() const {

@@ -22,7 +22,8 @@ public:
     bool IsNewFile(const std::string& path) const; ///< That of a save that is under way.
 
     void Save(int pixel) const; ///< An image of this pixel, from 0 to 255, everywhere.
-    int Pixel() const;          ///< The one pixel of the stored image; -1 when they differ.
+    static void SaveAs(const std::string& path, int pixel);
+    int Pixel() const; ///< The one pixel of the stored image; -1 when they differ.
 
 private:
     TestFolder m_folder;

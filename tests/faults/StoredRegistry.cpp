@@ -1,11 +1,9 @@
 #include "StoredRegistry.h"
 
-#include "ChildProcess.h"
-
+#include <ChildProcess.h>
+#include <System.h>
 #include <ruqlib2core/CRegistry.h>
 #include <ruqlib2core/CValueString.h>
-
-#include <cstdlib>
 
 using namespace TEVU;
 
@@ -14,11 +12,9 @@ namespace {
 const char* const c_sName = "registry.json";
 
 /// \a run in a fresh process that uses this registry; what it returned and wrote on standard error.
-std::string inFreshProcess(const std::string& path, const std::function<std::string()>& run) {
-    const auto outcome = inChild([&] {
-        ::setenv("RUQ_REGISTRY", path.c_str(), 1);
-        return run();
-    });
+std::string inFreshProcess(const std::string& path, std::string (*run)()) {
+    support::setVariable("RUQ_REGISTRY", path);
+    const auto outcome = support::inChild(run);
     return outcome.output + outcome.errors;
 }
 

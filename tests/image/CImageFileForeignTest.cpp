@@ -1,6 +1,7 @@
 #include "ImageFiles.h"
 #include "RawTiff.h"
 
+#include <NotOnWindows.h>
 #include <ruqlib2image/COrunHeaderTools.h>
 
 #include <algorithm>
@@ -106,6 +107,8 @@ class CImageFileRefusedTest : public CImageFiles, public testing::WithParamInter
 } // namespace
 
 TEST_P(CImageFileMagickTest, HasThePixelsThatImageMagickTells) {
+    if (std::string(GetParam().options).find("jpeg") != std::string::npos)
+        NOT_ON_WINDOWS(noJpeg);
     run("convert -size 37x29 " + GetParam().source + " " + GetParam().options + " a.tif");
     run("convert a.tif -alpha off " + std::string(GetParam().raw) + "a.raw");
 
@@ -321,6 +324,8 @@ TEST_F(CImageFileForeignTest, PagesOfDifferentTypesAreRefused) {
 }
 
 TEST_P(CImageFileRefusedTest, IsRefusedByName) {
+    if (std::string(GetParam().command).find("mkfifo") != std::string::npos)
+        NOT_ON_WINDOWS(noPipes);
     run(GetParam().command);
 
     EXPECT_EQ(refusal(dir.path("a.tif")),

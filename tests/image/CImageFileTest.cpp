@@ -1,6 +1,5 @@
 #include "ImageFiles.h"
 
-#include <OrdinaryUser.h>
 #include <ruqlib2core/CValueBool.h>
 #include <ruqlib2core/CValueDouble.h>
 #include <ruqlib2core/CValueLong.h>
@@ -10,11 +9,8 @@
 
 #include <climits>
 #include <cmath>
-#include <csignal>
 #include <limits>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <system_error>
 
 using namespace TEVU;
 using namespace image_files;
@@ -83,6 +79,15 @@ void PrintTo(const StSpacing& row, std::ostream* out) {
 }
 
 class CImageFileSpacingTest : public CImageFiles, public testing::WithParamInterface<StSpacing> {};
+
+/// As the system words it.
+std::string reasonForAMissingFolder() {
+#ifdef _WIN32
+    return std::system_category().message(3);
+#else
+    return "No such file";
+#endif
+}
 
 const double c_dInfinity = std::numeric_limits<double>::infinity();
 const double c_dNan = std::numeric_limits<double>::quiet_NaN();
@@ -499,26 +504,6 @@ TEST_F(CImageFileTest, WrittenFileReplacesTheOldOne) {
     EXPECT_EQ(run("ls -A"), "a.tif\n");
 }
 
-TEST_F(CImageFileTest, ReplacedFileKeepsItsPermissions) {
-    dir.writeFile("a.tif", "old");
-    dir.setPermissions("a.tif", 0640);
-
-    write(patterned(Type::eUInt8, CSize(2, 2)), "a.tif");
-
-    EXPECT_EQ(run("stat -c %a a.tif"), "640\n");
-}
-
-TEST_F(CImageFileTest, LinkGoesOnPointingToTheFile) {
-    dir.makeFolder("images");
-    dir.writeFile("images/a.tif", "old");
-    dir.makeLink("link.tif", "images/a.tif");
-
-    write(patterned(Type::eUInt8, CSize(2, 2)), "link.tif");
-
-    EXPECT_EQ(run("readlink link.tif"), "images/a.tif\n");
-    EXPECT_EQ(read("images/a.tif").Size(), CSize(2, 2));
-}
-
 TEST_F(CImageFileTest, MissingFolderIsReportedWithThePath) {
     try {
         write(patterned(Type::eUInt8, CSize(2, 2)), "none/a.tif");
@@ -526,7 +511,7 @@ TEST_F(CImageFileTest, MissingFolderIsReportedWithThePath) {
     } catch (const CException& exception) {
         EXPECT_THAT(exception.Message(),
                     AllOf(StartsWith("cannot write \"" + dir.path("none/a.tif")),
-                          HasSubstr("No such file")));
+                          HasSubstr(reasonForAMissingFolder())));
     }
 }
 
@@ -536,44 +521,4 @@ TEST_F(CImageFileTest, FolderIsNotReplaced) {
     EXPECT_THROW(write(patterned(Type::eUInt8, CSize(2, 2)), "a.tif"), CException);
 
     EXPECT_EQ(run("stat -c %F a.tif"), "directory\n");
-}
-
-TEST_F(CImageFileTest, WriteProtectedFileIsNotReplaced) {
-    RUN_AS_ORDINARY_USER();
-    dir.writeFile("a.tif", "old");
-    dir.setPermissions("a.tif", 0444);
-
-    EXPECT_THROW(write(patterned(Type::eUInt8, CSize(2, 2)), "a.tif"), CException);
-
-    EXPECT_EQ(dir.read("a.tif"), "old");
-}
-
-TEST_F(CImageFileTest, UnreadableFileIsReported) {
-    RUN_AS_ORDINARY_USER();
-    write(patterned(Type::eUInt8, CSize(2, 2)), "a.tif");
-    dir.setPermissions("a.tif", 0000);
-
-    EXPECT_THAT(refusal(dir.path("a.tif")), HasSubstr("Permission denied"));
-}
-
-TEST_F(CImageFileTest, FullDiskLeavesTheOldFileAsItWas) {
-    dir.writeFile("a.tif", "old");
-    const CImage image = patterned(Type::eUInt8, CSize(1000, 1000));
-    rlimit limits{};
-    getrlimit(RLIMIT_FSIZE, &limits);
-    const rlimit small{300000, limits.rlim_max};
-    std::signal(SIGXFSZ, SIG_IGN);
-
-    setrlimit(RLIMIT_FSIZE, &small);
-    std::string message;
-    try {
-        write(image, "a.tif");
-    } catch (const CException& exception) {
-        message = exception.Message();
-    }
-    setrlimit(RLIMIT_FSIZE, &limits);
-
-    EXPECT_THAT(message, HasSubstr("cannot write"));
-    EXPECT_EQ(dir.read("a.tif"), "old");
-    EXPECT_EQ(run("ls -A"), "a.tif\n");
 }

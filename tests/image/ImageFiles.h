@@ -51,9 +51,7 @@ inline std::string refusal(const std::string& path) {
 /// A folder, and commands that run in it.
 class CImageFiles : public testing::Test {
 protected:
-    std::string run(const std::string& command) const {
-        return programs::run("cd " + dir.path() + " && " + command);
-    }
+    std::string run(const std::string& command) const { return programs::run(dir.path(), command); }
     TEVU::CImage read(const std::string& name) const {
         return TEVU::CImageFile::Read(dir.path(name));
     }

@@ -1,10 +1,6 @@
 #include "Programs.h"
 
-#include <TempDir.h>
-
-#include <cstdlib>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 namespace programs {
 
@@ -14,23 +10,17 @@ const int c_nNotFound = 127; ///< What the shell returns for a program that ther
 
 } // namespace
 
-std::string run(const std::string& command) {
-    const support::TempDir dir;
-    const std::string redirected =
-        "( " + command + " ) >" + dir.path("out") + " 2>" + dir.path("err");
-    const int status = std::system(redirected.c_str());
-    const std::string output = dir.read("out");
-    const std::string errors = dir.read("err");
-    const int code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    if (code == c_nNotFound)
+std::string run(const std::string& folder, const std::string& command) {
+    const Result result = runInShell(folder, command);
+    if (result.code == c_nNotFound)
         ADD_FAILURE() << "A program that the tests need is not installed (Debian: imagemagick, "
                          "libtiff-tools): "
-                      << errors;
+                      << result.errors;
     else
-        EXPECT_TRUE(code == 0 && errors.empty())
-            << command << "\nended with " << code << " and printed\n"
-            << output << errors;
-    return output;
+        EXPECT_TRUE(result.code == 0 && result.errors.empty())
+            << command << "\nended with " << result.code << " and printed\n"
+            << result.output << result.errors;
+    return result.output;
 }
 
 } // namespace programs

@@ -1,6 +1,8 @@
 #ifndef RUQGUI_TESTS_SUPPORT_ORDINARYUSER_H
 #define RUQGUI_TESTS_SUPPORT_ORDINARYUSER_H
 
+#include "NotOnWindows.h"
+
 #include <gtest/gtest.h>
 #include <string>
 
@@ -30,6 +32,7 @@ Outcome runCurrentTestAsOrdinaryUser();
 ///     const support::TempDir dir;
 /// \endcode
 #define RUN_AS_ORDINARY_USER()                                                                     \
+    NOT_ON_WINDOWS(noPermissions);                                                                 \
     if (support::isSuperuser()) {                                                                  \
         const support::Outcome outcome = support::runCurrentTestAsOrdinaryUser();                  \
         EXPECT_TRUE(outcome.passed) << outcome.output;                                             \

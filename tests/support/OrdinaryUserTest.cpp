@@ -53,6 +53,7 @@ TEST(OrdinaryUser, HasAHomeToWriteTo) {
 }
 
 TEST(OrdinaryUser, TestThatFailsThereFailsHere) {
+    NOT_ON_WINDOWS(noPermissions);
     if (support::isRerun())
         FAIL() << "on purpose";
     if (!support::isSuperuser())

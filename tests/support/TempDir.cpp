@@ -1,6 +1,7 @@
 #include "TempDir.h"
 
-#include <cstdlib>
+#include "System.h"
+
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -32,10 +33,9 @@ void removeAll(const fs::path& path) {
 } // namespace
 
 TempDir::TempDir() {
-    std::string pattern = fs::canonical(fs::temp_directory_path()) / "ruqgui-test-XXXXXX";
-    const char* made = mkdtemp(pattern.data());
-    EXPECT_TRUE(made) << pattern;
-    m_sPath = pattern;
+    const fs::path temporary = fs::canonical(fs::temp_directory_path());
+    m_sPath = makeFreshFolder((temporary / "ruqgui-test-").generic_string());
+    EXPECT_NE(m_sPath, "") << temporary;
 }
 
 TempDir::~TempDir() {

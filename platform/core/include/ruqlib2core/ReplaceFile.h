@@ -6,6 +6,9 @@
 #include <functional>
 #include <string>
 
+// Windows' own header makes a macro of the name. Include it before this one, if at all.
+#undef ReplaceFile
+
 namespace TEVU {
 
 /// Replaces the file \a path, or makes it, in one step: whatever happens on the way, a kill or a

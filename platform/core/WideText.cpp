@@ -1,0 +1,24 @@
+#include "WideText.h"
+
+#include <windows.h>
+
+namespace TEVU {
+
+std::wstring toWide(const std::string& utf8) {
+    const int bytes = static_cast<int>(utf8.size());
+    const int length = ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), bytes, nullptr, 0);
+    std::wstring wide(static_cast<std::size_t>(length), L'\0');
+    ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), bytes, wide.data(), length);
+    return wide;
+}
+
+std::string toUtf8(const std::wstring& wide) {
+    const int count = static_cast<int>(wide.size());
+    const int length =
+        ::WideCharToMultiByte(CP_UTF8, 0, wide.data(), count, nullptr, 0, nullptr, nullptr);
+    std::string utf8(static_cast<std::size_t>(length), '\0');
+    ::WideCharToMultiByte(CP_UTF8, 0, wide.data(), count, utf8.data(), length, nullptr, nullptr);
+    return utf8;
+}
+
+} // namespace TEVU

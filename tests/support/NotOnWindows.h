@@ -1,0 +1,27 @@
+#ifndef RUQGUI_TESTS_SUPPORT_NOTONWINDOWS_H
+#define RUQGUI_TESTS_SUPPORT_NOTONWINDOWS_H
+
+#include <gtest/gtest.h>
+
+/// At the top of a test that has nothing to test on Windows. All reasons stand here. What whole files of
+/// tests leave out there is in those named PosixTest; WindowsTest is their counterpart.
+#ifdef _WIN32
+#define NOT_ON_WINDOWS(reason) GTEST_SKIP() << support::reason
+#else
+#define NOT_ON_WINDOWS(reason) static_assert(true, "")
+#endif
+
+namespace support {
+
+constexpr const char* noPermissions =
+    "Not on Windows: a program cannot take its own user's permissions away there; the tests named "
+    "WindowsTest do the same with the read-only attribute";
+constexpr const char* noLinks =
+    "Not on Windows: symbolic links need a privilege there, and the compiler's library makes none";
+constexpr const char* noPipes = "Not on Windows: no pipe can stand in the place of a file there";
+constexpr const char* noJpeg = "Not on Windows: libtiff is built without JPEG there, because "
+                               "Debian has no libjpeg for Windows";
+
+} // namespace support
+
+#endif

@@ -1,0 +1,23 @@
+#ifndef RUQGUI_TESTS_SUPPORT_SYSTEM_H
+#define RUQGUI_TESTS_SUPPORT_SYSTEM_H
+
+#include <string>
+
+namespace support {
+
+/// What tests need of the operating system beside files and processes, once for each system.
+
+/// Environment variables of this process and of those that it starts. On Windows an empty one is none.
+void setVariable(const char* name, const std::string& value);
+void unsetVariable(const char* name);
+
+/// A new folder with this beginning of its path; empty if none can be made.
+std::string makeFreshFolder(const std::string& beginning);
+
+/// Makes a file or folder the property of the user of that number, if this is the superuser. Windows has no
+/// such users: nothing happens.
+void giveAway(const std::string& path, unsigned user);
+
+} // namespace support
+
+#endif
