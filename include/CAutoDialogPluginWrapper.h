@@ -18,7 +18,8 @@ class CValueMap;
 ///     bool SetParameterValue(TEVU::CValueMap& edited) override { m_parameters = edited; return true; }
 /// };
 /// \endcode
-/// The plug-in is "plugwdgt_orunparamdlg::autodlg"; the form of a description is the plug-in's.
+/// The plug-in is "plugwdgt_orunparamdlg::autodlg". The form of a description is the plug-in's: that of
+/// the one in plugins/orunparamdlg is told, with a whole example, in docs/generated-dialogs.md.
 ///
 /// GUI thread only. It has no state of its own.
 class RUQGUI_EXPORT CAutoDialogPluginWrapper {

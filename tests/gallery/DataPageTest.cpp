@@ -331,6 +331,18 @@ TEST_F(DataPageTest, EditedParametersAreShown) {
     EXPECT_EQ(pane("parameters"), edited);
 }
 
+TEST_F(DataPageTest, ParametersAreEditedInTheGeneratedDialog) {
+    open();
+    m_user.expectDialog({"autodlg", "Find pores"}).act([](QWidget* dialog) {
+        support::child<qt3::LineEdit>(dialog, "comment")->setText("typed");
+        support::mouseClick(support::child<qt3::PushButton>(dialog, "ok"));
+    });
+    click("editParameters");
+    EXPECT_EQ(label("parametersMessage"), "Edited:");
+    EXPECT_NE(pane("parameters").find("comment: \"typed\"\n"), std::string::npos)
+        << pane("parameters");
+}
+
 TEST_F(DataPageTest, MissingPluginIsToldInThePage) {
     TEVU::RegisterPlugin(c_plugin, createNone);
     open();
