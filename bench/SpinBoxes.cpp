@@ -99,9 +99,13 @@ StSides makingAndDestroying() {
 StSides keeping() {
     const auto parent = std::make_shared<QWidget>();
     const auto boxes = std::make_shared<std::vector<std::unique_ptr<QWidget>>>();
+    const auto keep = [boxes](std::unique_ptr<QWidget> box) {
+        boxes->push_back(std::move(box));
+        paintWhatIsDue(); // what is posted to new widgets goes too
+    };
     boxes->reserve(10000);
-    return {[parent, boxes] { boxes->push_back(newOwn(parent.get())); },
-            [parent, boxes] { boxes->push_back(newPlain(parent.get())); }};
+    return {[parent, keep] { keep(newOwn(parent.get())); },
+            [parent, keep] { keep(newPlain(parent.get())); }};
 }
 
 } // namespace

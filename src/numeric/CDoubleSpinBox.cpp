@@ -126,9 +126,10 @@ void CDoubleSpinBox::buildChildren() {
     m_pPrivate->m_pSpinWidget = spinWidget;
 
     m_pValidator = new CDoubleSpinBoxValidator(this, "DoubleValidator");
-    m_pEditor = new qt3::LineEdit(this, "LineEdit_DoubleSpinbox");
+    m_pEditor = new qt3::LineEdit(currentValueText(), this, "LineEdit_DoubleSpinbox");
     m_pPrivate->m_pOwnEditor = m_pEditor;
     m_pPrivate->m_pOwnValidator = m_pValidator;
+    m_pPrivate->m_bPainted = true; // it will be, with the text that it has
     spinWidget->setEditWidget(m_pEditor);
     m_pEditor->setEnabled(true); // in a disabled parent a toolkit may disable what moves, for good
     m_pEditor->setValidator(m_pValidator);
