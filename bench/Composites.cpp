@@ -5,12 +5,11 @@
 #include <CRangeSliderSpinboxed.h>
 #include <CSpinboxSlider.h>
 #include <memory>
-#include <qboxlayout.h>
-#include <qslider.h>
-#include <qspinbox.h>
+#include <qt3/Layout.h>
 
-/// The parts stand in the same layout as in the composite, with the same sizes, but know nothing of each
-/// other: every one is set by itself, and one slot listens to the part that the change begins with.
+/// The parts are those of the composite, of the same classes and with the same sizes, in the same layout;
+/// but they know nothing of each other: every one is set by itself, and one slot listens to the part that
+/// the change begins with.
 namespace bench {
 
 namespace {
@@ -21,52 +20,40 @@ using TEVU::CSpinboxSlider;
 
 const int c_nMax = 100;
 
-void addTo(QLayout* layout, std::initializer_list<QWidget*> widgets) {
-    layout->setContentsMargins(0, 0, 0, 0);
-    for (QWidget* widget : widgets)
-        layout->addWidget(widget);
-}
-
 /// The parts of a range slider with spin boxes.
-class RangeParts : public QWidget {
+class RangeParts : public qt3::Widget {
 public:
-    explicit RangeParts(QWidget* parent)
-        : QWidget(parent), m_spinBox1(this),
-          m_slider(Qt::Horizontal, 0, c_nMax, 0, c_nMax, this, "rangeslider"), m_spinBox2(this) {
-        setObjectName("composite");
-        prepare(&m_spinBox1, "spinbox1 ", 0);
-        prepare(&m_spinBox2, "spinbox2", c_nMax);
-        addTo(new QHBoxLayout(this), {&m_spinBox1, &m_slider, &m_spinBox2});
+    explicit RangeParts(QWidget* parent) : qt3::Widget(parent, "composite") {
+        m_pSpinBox1 = new qt3::SpinBox(0, c_nMax, 1, this, "spinbox1 ");
+        m_pSpinBox1->setFixedSize(m_pSpinBox1->sizeHint());
+        m_pSlider = new CRangeSlider(Qt::Horizontal, 0, c_nMax, 0, c_nMax, this, "rangeslider");
+        m_pSpinBox2 = new qt3::SpinBox(0, c_nMax, 1, this, "spinbox2");
+        m_pSpinBox2->setFixedSize(m_pSpinBox2->sizeHint());
+        auto* row = new qt3::HBoxLayout(this, 0, -1);
+        for (QWidget* part : {static_cast<QWidget*>(m_pSpinBox1), static_cast<QWidget*>(m_pSlider),
+                              static_cast<QWidget*>(m_pSpinBox2)})
+            row->addWidget(part);
+        m_pSpinBox2->setValue(c_nMax);
     }
 
-    QSpinBox m_spinBox1;
-    CRangeSlider m_slider;
-    QSpinBox m_spinBox2;
-
-private:
-    static void prepare(QSpinBox* spinBox, const char* name, int value) {
-        spinBox->setObjectName(name);
-        spinBox->setRange(0, c_nMax);
-        spinBox->setFixedSize(spinBox->sizeHint());
-        spinBox->setValue(value);
-    }
+    qt3::SpinBox* m_pSpinBox1;
+    CRangeSlider* m_pSlider;
+    qt3::SpinBox* m_pSpinBox2;
 };
 
 /// The parts of a slider with a spin box.
-class SliderParts : public QWidget {
+class SliderParts : public qt3::Widget {
 public:
-    explicit SliderParts(QWidget* parent)
-        : QWidget(parent), m_slider(Qt::Horizontal, this), m_spinBox(this) {
-        setObjectName("composite");
-        m_slider.setObjectName("slider");
-        m_slider.setRange(0, c_nMax);
-        m_spinBox.setObjectName("spinbox");
-        m_spinBox.setRange(0, c_nMax);
-        addTo(new QHBoxLayout(this), {&m_slider, &m_spinBox});
+    explicit SliderParts(QWidget* parent) : qt3::Widget(parent, "composite") {
+        m_pSlider = new qt3::Slider(0, c_nMax, 1, 0, Qt::Horizontal, this, "slider");
+        m_pSpinBox = new qt3::SpinBox(0, c_nMax, 1, this, "spinbox");
+        auto* row = new qt3::HBoxLayout(this, 0, -1);
+        row->addWidget(m_pSlider);
+        row->addWidget(m_pSpinBox);
     }
 
-    QSlider m_slider;
-    QSpinBox m_spinBox;
+    qt3::Slider* m_pSlider;
+    qt3::SpinBox* m_pSpinBox;
 };
 
 /// A widget in a window.
@@ -110,13 +97,13 @@ StSides rangeFromSlider() {
     const auto own = std::make_shared<Shown<NamedRangeSlider>>();
     const auto parts = std::make_shared<Shown<RangeParts>>();
     own->listenTo(&own->m_tested, &CRangeSliderSpinboxed::SignalLowerChanged);
-    parts->listenTo(&parts->m_tested.m_slider, &CRangeSlider::LowerChanged);
+    parts->listenTo(parts->m_tested.m_pSlider, &CRangeSlider::LowerChanged);
     const auto slider = childOf<CRangeSlider>(&own->m_tested, "rangeslider");
     RangeParts* const alone = &parts->m_tested;
     return {changing(own, [slider](int value) { slider->SetLower(value); }),
             changing(parts, [alone](int value) {
-                alone->m_slider.SetLower(value);
-                alone->m_spinBox1.setValue(value);
+                alone->m_pSlider->SetLower(value);
+                alone->m_pSpinBox1->setValue(value);
             })};
 }
 
@@ -124,13 +111,13 @@ StSides rangeFromSpinBox() {
     const auto own = std::make_shared<Shown<NamedRangeSlider>>();
     const auto parts = std::make_shared<Shown<RangeParts>>();
     own->listenTo(&own->m_tested, &CRangeSliderSpinboxed::SignalLowerChanged);
-    parts->listenTo(&parts->m_tested.m_spinBox1, &QSpinBox::valueChanged);
+    parts->listenTo(parts->m_tested.m_pSpinBox1, &QSpinBox::valueChanged);
     const auto spinBox = childOf<QSpinBox>(&own->m_tested, "spinbox1 ");
     RangeParts* const alone = &parts->m_tested;
     return {changing(own, [spinBox](int value) { spinBox->setValue(value); }),
             changing(parts, [alone](int value) {
-                alone->m_spinBox1.setValue(value);
-                alone->m_slider.SetLower(value);
+                alone->m_pSpinBox1->setValue(value);
+                alone->m_pSlider->SetLower(value);
             })};
 }
 
@@ -138,13 +125,13 @@ StSides sliderFromSlider() {
     const auto own = std::make_shared<Shown<NamedSlider>>();
     const auto parts = std::make_shared<Shown<SliderParts>>();
     own->listenTo(&own->m_tested, &CSpinboxSlider::SignalValueChanged);
-    parts->listenTo(&parts->m_tested.m_slider, &QSlider::valueChanged);
+    parts->listenTo(parts->m_tested.m_pSlider, &QSlider::valueChanged);
     const auto slider = childOf<QSlider>(&own->m_tested, "slider");
     SliderParts* const alone = &parts->m_tested;
     return {changing(own, [slider](int value) { slider->setValue(value); }),
             changing(parts, [alone](int value) {
-                alone->m_slider.setValue(value);
-                alone->m_spinBox.setValue(value);
+                alone->m_pSlider->setValue(value);
+                alone->m_pSpinBox->setValue(value);
             })};
 }
 
@@ -152,13 +139,13 @@ StSides sliderFromSpinBox() {
     const auto own = std::make_shared<Shown<NamedSlider>>();
     const auto parts = std::make_shared<Shown<SliderParts>>();
     own->listenTo(&own->m_tested, &CSpinboxSlider::SignalValueChanged);
-    parts->listenTo(&parts->m_tested.m_spinBox, &QSpinBox::valueChanged);
+    parts->listenTo(parts->m_tested.m_pSpinBox, &QSpinBox::valueChanged);
     const auto spinBox = childOf<QSpinBox>(&own->m_tested, "spinbox");
     SliderParts* const alone = &parts->m_tested;
     return {changing(own, [spinBox](int value) { spinBox->setValue(value); }),
             changing(parts, [alone](int value) {
-                alone->m_spinBox.setValue(value);
-                alone->m_slider.setValue(value);
+                alone->m_pSpinBox->setValue(value);
+                alone->m_pSlider->setValue(value);
             })};
 }
 
