@@ -11,8 +11,11 @@
 #include <qapplication.h>
 #include <qevent.h>
 #include <qlineedit.h>
+#include <qt3/DoubleValidator.h>
 #include <qt3/SpinWidget.h>
+#include <qvalidator.h>
 #include <qwidget.h>
+#include <set>
 
 using model::same;
 using support::Lines;
@@ -127,6 +130,7 @@ public:
         if (step == lineStep)
             return;
         lineStep = step < 0 ? -step : step;
+        log("stepChange");
     }
 
     void setPrefix(const std::string& newText) {
@@ -272,6 +276,7 @@ private:
         minimum = low;
         maximum = high;
         const double clamped = bound(current);
+        log("rangeChange");
         updateDisplay();
         if (clamped == current)
             return;
@@ -281,6 +286,7 @@ private:
     }
 
     void valueChange() {
+        log("valueChange");
         m_bSelectionRequested = hasFocus();
         updateDisplay();
         m_bSelectionRequested = false;
@@ -320,6 +326,7 @@ private:
     }
 
     void interpretText() {
+        log("interpretText");
         double number = minimum;
         const bool isSpecial =
             !special.empty() && model::stripped(text) == model::stripped(special);
@@ -334,6 +341,7 @@ private:
     }
 
     void updateDisplay() {
+        log("updateDisplay");
         type(currentValueText());
         if (m_bSelectionRequested && m_surroundings.isShown && hasFocus())
             selectAll();
@@ -435,7 +443,38 @@ public:
 
     void turnWheel(int delta) { support::wheel(this, delta); }
 
+protected:
+    void valueChange() override {
+        add("valueChange");
+        TEVU::CDoubleSpinBox::valueChange();
+    }
+
+    void rangeChange() override {
+        add("rangeChange");
+        TEVU::CDoubleSpinBox::rangeChange();
+    }
+
+    void stepChange() override {
+        add("stepChange");
+        TEVU::CDoubleSpinBox::stepChange();
+    }
+
+    void updateDisplay() override {
+        add("updateDisplay");
+        TEVU::CDoubleSpinBox::updateDisplay();
+    }
+
+    void interpretText() override {
+        add("interpretText");
+        TEVU::CDoubleSpinBox::interpretText();
+    }
+
 private:
+    void add(const char* hook) {
+        if (m_pRecorder)
+            m_pRecorder->add(m_sName + '.' + hook);
+    }
+
     QLineEdit* m_pEditor = support::child<QLineEdit>(this, "LineEdit_DoubleSpinbox");
     qt3::SpinWidget* m_pSpin = support::child<qt3::SpinWidget>(this, "SpinWidget");
 };
@@ -600,6 +639,7 @@ protected:
         m_other.setGeometry(200, 0, 90, 24);
         name(m_a, "a");
         name(m_b, "b");
+        m_surroundings.log.clear(); // while they are made, no override is called
     }
 
     void name(Box& box, const char* label) {
@@ -692,6 +732,23 @@ protected:
     Model m_modelB{"b", m_surroundings, -2.5, 2.5, 0.3};
 };
 
+// A box and its model that change their affixes together.
+class CDoubleSpinBoxValidatorModel : public testing::Test {
+protected:
+    void changeAffixes(std::mt19937& random) {
+        m_model.prefix = model::pick(random, c_vPrefixes);
+        m_model.suffix = model::pick(random, c_vSuffixes);
+        m_model.special = model::pick(random, c_vSpecials);
+        m_box.setPrefix(m_model.prefix);
+        m_box.setSuffix(m_model.suffix);
+        m_box.setSpecialValueText(m_model.special);
+    }
+
+    Box m_box;
+    Surroundings m_surroundings;
+    Model m_model{"box", m_surroundings};
+};
+
 } // namespace
 
 TEST_P(CDoubleSpinBoxModel, AnySequenceOfOperationsGoesAsInTheModel) {
@@ -705,6 +762,73 @@ TEST_P(CDoubleSpinBoxModel, AnySequenceWithTheFocusInAWindowOnTheScreenGoesAsInT
     showAll();
 
     run(5000);
+}
+
+namespace {
+
+// What the validator has to say, on top of the answers of a plain one.
+struct Verdict {
+    QValidator::State state;
+    std::string text;
+    int position;
+};
+
+Verdict plainVerdict(const std::string& text, int position) {
+    const qt3::DoubleValidator plain(nullptr);
+    QString copy = toolkitText(text);
+    const QValidator::State state = plain.validate(copy, position);
+    return {state, support::text(copy), position};
+}
+
+Verdict verdictOnPart(const Model& box, const std::string& text, int position,
+                      const std::string& suffix) {
+    const int start = static_cast<int>(box.prefix.size());
+    const std::size_t length = text.size() - box.prefix.size() - suffix.size();
+    const std::string back = text.substr(text.size() - suffix.size());
+    const Verdict part = plainVerdict(text.substr(box.prefix.size(), length), position - start);
+    return {part.state, box.prefix + part.text + back, part.position + start};
+}
+
+Verdict verdict(const Model& box, const std::string& text, int position) {
+    const std::string bareSuffix = model::stripped(box.suffix);
+    const std::size_t overhead = box.prefix.size() + box.suffix.size();
+    if (overhead == 0)
+        return plainVerdict(text, position);
+    if (text.size() >= overhead && model::startsWith(text, box.prefix)) {
+        if (model::endsWith(text, box.suffix))
+            return verdictOnPart(box, text, position, box.suffix);
+        if (model::endsWith(text, bareSuffix))
+            return verdictOnPart(box, text, position, bareSuffix);
+    }
+    Verdict whole = plainVerdict(text, position);
+    const std::string special = model::stripped(box.special);
+    const std::string typed = model::stripped(text);
+    if (whole.state == QValidator::Invalid && model::startsWith(special, typed))
+        whole.state = special == typed ? QValidator::Acceptable : QValidator::Intermediate;
+    return whole;
+}
+
+} // namespace
+
+TEST_F(CDoubleSpinBoxValidatorModel, JudgesAnyTextAsTheModelDoes) {
+    std::mt19937 random(2718);
+    std::set<QValidator::State> seen;
+    for (int i = 0; i < 100000; ++i) {
+        if (i % 50 == 0)
+            changeAffixes(random);
+        const std::string text = anyTypedText(random, m_model);
+        const int start = static_cast<int>(random() % (text.size() + 1));
+        const Verdict expected = verdict(m_model, text, start);
+        QString shown = toolkitText(text);
+        int position = start;
+        const QValidator::State state = m_box.validator()->validate(shown, position);
+        ASSERT_EQ(state, expected.state)
+            << "step " << i << ", '" << text << "' with " << m_model.state();
+        ASSERT_EQ(support::text(shown), expected.text);
+        ASSERT_EQ(position, expected.position);
+        seen.insert(state);
+    }
+    EXPECT_EQ(seen.size(), 3u);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, CDoubleSpinBoxModel, testing::Values(4711u, 815u, 1234u));

@@ -484,6 +484,18 @@ TEST_F(CDoubleSpinBox, ButtonsStep) {
     EXPECT_EQ(m_recorder.take(), change("0", "0"));
 }
 
+TEST_F(CDoubleSpinBox, HeldButtonRepeatsUntilItsStepIsTheLastOne) {
+    m_box.setMaxValue(3.0);
+    support::mousePress(m_box.spin(), m_box.upRect().center());
+
+    EXPECT_TRUE(support::waitUntil([this] { return !canStepUp(); }));
+    EXPECT_EQ(m_box.value(), 3.0);
+    m_box.setMaxValue(9.0); // the button is enabled again, but was let go
+
+    EXPECT_FALSE(support::waitUntil([this] { return m_box.value() > 3.0; }, 450));
+    support::mouseRelease(m_box.spin(), m_box.upRect().center());
+}
+
 TEST_F(CDoubleSpinBox, ButtonRectsAreThoseOfTheSpinWidget) {
     EXPECT_TRUE(m_box.upRect() == m_box.spin()->upRect());
     EXPECT_TRUE(m_box.downRect() == m_box.spin()->downRect());
