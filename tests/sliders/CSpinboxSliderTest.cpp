@@ -5,7 +5,9 @@
 
 #include <Events.h>
 #include <Recorder.h>
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <ostream>
@@ -17,6 +19,17 @@ using support::Lines;
 using TEVU::CSpinboxSlider;
 
 namespace {
+
+/// Opens the protected slots.
+class COpenSlots : public CSpinboxSlider {
+public:
+    using CSpinboxSlider::_SlotSetValue;
+    using CSpinboxSlider::_SlotSetValueFromSlider;
+    using CSpinboxSlider::CSpinboxSlider;
+    using CSpinboxSlider::SlotSliderMoved;
+    using CSpinboxSlider::SlotSliderPressed;
+    using CSpinboxSlider::SlotSliderReleased;
+};
 
 /// The composite with its children, and all that they say.
 struct StRig {
@@ -49,8 +62,13 @@ struct StRig {
                std::to_string(m_slider.value()) + ", spin box " + std::to_string(m_spin.value());
     }
 
+    std::string steps() const {
+        return std::to_string(m_composite.GetStep()) + ", page " +
+               std::to_string(m_slider.pageStep()) + ", line " + std::to_string(m_spin.lineStep());
+    }
+
     QWidget m_window;
-    CSpinboxSlider m_composite;
+    COpenSlots m_composite;
     qt3::Slider& m_slider;
     qt3::SpinBox& m_spin;
     support::Recorder m_recorder;
@@ -484,21 +502,6 @@ TEST(CSpinboxSliderTest, SlotsAndSignalsHaveTheirOrderAndAccess) {
                      "public SignalSliderMoved(int)", "public SignalSliderReleased()"}));
 }
 
-namespace {
-
-/// Opens the protected slots.
-class COpenSlots : public CSpinboxSlider {
-public:
-    using CSpinboxSlider::_SlotSetValue;
-    using CSpinboxSlider::_SlotSetValueFromSlider;
-    using CSpinboxSlider::CSpinboxSlider;
-    using CSpinboxSlider::SlotSliderMoved;
-    using CSpinboxSlider::SlotSliderPressed;
-    using CSpinboxSlider::SlotSliderReleased;
-};
-
-} // namespace
-
 TEST(CSpinboxSliderTest, ProtectedSlotsAnnounceTheValueInForceToo) {
     QWidget window;
     COpenSlots composite(0, 100, 1, 30, Qt::Horizontal, true, &window, "page");
@@ -592,23 +595,42 @@ public:
                ", spin box " + std::to_string(m_spin.value());
     }
 
+    std::string steps() const {
+        const std::string size = std::to_string(std::abs(m_nStep));
+        return std::to_string(m_nStep) + ", page " + size + ", line " + size;
+    }
+
+    void SlotSetStep(int v) { m_nStep = v; }
+    void stepUp() { m_spin.setValue(m_spin.value() + std::abs(m_nStep)); }
+    void stepDown() { m_spin.setValue(m_spin.value() - std::abs(m_nStep)); }
+
+    void SlotSliderPressed() { m_lines.push_back("page.SignalSliderPressed()"); }
+    void SlotSliderMoved(int s) { tell("page.SignalSliderMoved", mirrored(s)); }
+    void SlotSliderReleased() { m_lines.push_back("page.SignalSliderReleased()"); }
+
+    void _SlotSetValue(int v) {
+        SlotSetValue(v);
+        tell("page.SignalValueChanged", v);
+    }
+
+    void _SlotSetValueFromSlider(int s) {
+        m_nValue = mirrored(s);
+        m_spin.setValue(m_nValue);
+        m_slider.setValue(mirrored(m_nValue));
+        tell("page.SignalValueChanged", m_nValue);
+    }
+
 private:
     int mirrored(int value) const { return m_bInverted ? m_nMin + m_nMax - value : value; }
     void tell(const char* name, int value) { m_lines.push_back(call(name, value)); }
 
     void fromSpinBox(int v) {
-        m_nValue = v;
-        m_spin.setValue(v);
-        m_slider.setValue(mirrored(v));
-        tell("page.SignalValueChanged", v);
+        _SlotSetValue(v);
         tell("spin.valueChanged", v);
     }
 
     void fromSlider(int s) {
-        m_nValue = mirrored(s);
-        m_spin.setValue(m_nValue);
-        m_slider.setValue(mirrored(m_nValue));
-        tell("page.SignalValueChanged", m_nValue);
+        _SlotSetValueFromSlider(s);
         tell("slider.valueChanged", s);
     }
 
@@ -616,6 +638,7 @@ private:
     int m_nMin = 0;
     int m_nMax = 100;
     int m_nValue = 0;
+    int m_nStep = 1;
 
 public:
     CNumberModel m_slider;
@@ -627,31 +650,78 @@ private:
 
 class CSpinboxSliderRandomTest : public testing::TestWithParam<bool> {};
 
-/// One operation, done to both; tells what it was.
-std::string operate(StRig& rig, CModel& model, int kind, int number) {
-    switch (kind) {
-    case 0:
-        rig.m_composite.SlotSetValue(number);
-        model.SlotSetValue(number);
-        return call("SlotSetValue", number);
-    case 1:
-        rig.m_composite.SlotSetMinValue(number);
-        model.SlotSetMinValue(number);
-        return call("SlotSetMinValue", number);
-    case 2:
-        rig.m_composite.SlotSetMaxValue(number);
-        model.SlotSetMaxValue(number);
-        return call("SlotSetMaxValue", number);
-    case 3:
-        rig.m_slider.setValue(number);
-        model.m_slider.setValue(number);
-        return call("slider.setValue", number);
-    default:
-        rig.m_spin.setValue(number);
-        model.m_spin.setValue(number);
-        return call("spin.setValue", number);
-    }
-}
+struct StOperation {
+    const char* name;
+    void (*onBoth)(StRig& rig, CModel& model, int number);
+};
+
+const StOperation c_operations[] = {
+    {"SlotSetValue",
+     [](StRig& rig, CModel& model, int number) {
+         rig.m_composite.SlotSetValue(number);
+         model.SlotSetValue(number);
+     }},
+    {"SlotSetMinValue",
+     [](StRig& rig, CModel& model, int number) {
+         rig.m_composite.SlotSetMinValue(number);
+         model.SlotSetMinValue(number);
+     }},
+    {"SlotSetMaxValue",
+     [](StRig& rig, CModel& model, int number) {
+         rig.m_composite.SlotSetMaxValue(number);
+         model.SlotSetMaxValue(number);
+     }},
+    {"SlotSetStep",
+     [](StRig& rig, CModel& model, int number) {
+         rig.m_composite.SlotSetStep(number / 10);
+         model.SlotSetStep(number / 10);
+     }},
+    {"slider.setValue",
+     [](StRig& rig, CModel& model, int number) {
+         rig.m_slider.setValue(number);
+         model.m_slider.setValue(number);
+     }},
+    {"spin.setValue",
+     [](StRig& rig, CModel& model, int number) {
+         rig.m_spin.setValue(number);
+         model.m_spin.setValue(number);
+     }},
+    {"spin.stepUp",
+     [](StRig& rig, CModel& model, int) {
+         rig.m_spin.stepUp();
+         model.stepUp();
+     }},
+    {"spin.stepDown",
+     [](StRig& rig, CModel& model, int) {
+         rig.m_spin.stepDown();
+         model.stepDown();
+     }},
+    {"_SlotSetValue",
+     [](StRig& rig, CModel& model, int number) {
+         rig.m_composite._SlotSetValue(number);
+         model._SlotSetValue(number);
+     }},
+    {"_SlotSetValueFromSlider",
+     [](StRig& rig, CModel& model, int number) {
+         rig.m_composite._SlotSetValueFromSlider(number);
+         model._SlotSetValueFromSlider(number);
+     }},
+    {"SlotSliderPressed",
+     [](StRig& rig, CModel& model, int) {
+         rig.m_composite.SlotSliderPressed();
+         model.SlotSliderPressed();
+     }},
+    {"SlotSliderMoved",
+     [](StRig& rig, CModel& model, int number) {
+         rig.m_composite.SlotSliderMoved(number);
+         model.SlotSliderMoved(number);
+     }},
+    {"SlotSliderReleased",
+     [](StRig& rig, CModel& model, int) {
+         rig.m_composite.SlotSliderReleased();
+         model.SlotSliderReleased();
+     }},
+};
 
 } // namespace
 
@@ -665,13 +735,15 @@ TEST_P(CSpinboxSliderRandomTest, AnySequenceOfOperationsGoesAsTheModelGoes) {
     StRig rig(GetParam());
 
     for (int step = 0; step < 50000; ++step) { // 100,000 with both mappings
-        const int kind = std::uniform_int_distribution<int>(0, 4)(random);
+        const StOperation& chosen = c_operations[random() % std::size(c_operations)];
         const int number = std::uniform_int_distribution<int>(-60, 160)(random);
-        const std::string operation = operate(rig, model, kind, number);
+        chosen.onBoth(rig, model, number);
+        const std::string operation = call(chosen.name, number);
         ASSERT_EQ(rig.lines(), expected)
             << "seed " << seed << ", step " << step << ": " << operation;
         ASSERT_EQ(rig.state(), model.state())
             << "seed " << seed << ", step " << step << ": " << operation;
+        ASSERT_EQ(rig.steps(), model.steps());
         expected.clear();
     }
 }
