@@ -34,7 +34,9 @@ namespace TEVU {
 /// "main/globalsettings/IO/savingdir", "main/globalsettings/IO/lastimage0" (the newest) to
 /// "main/globalsettings/IO/lastimage3".
 ///
-/// GUI thread only. Copies take over all members; the parent is not owned.
+/// GUI thread only. Copies take over all members; the parent is not owned. When an application
+/// destroys the parent under an open dialog or box, even together with this object, asking ends as
+/// if it was cancelled.
 class RUQGUI_EXPORT CFileDialog {
 public:
     /// What the question about an existing file speaks of when saving. It changes the wording only:

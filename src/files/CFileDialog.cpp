@@ -10,7 +10,9 @@
 #include <qt3/File.h>
 #include <qt3/FileDialog.h>
 #include <qt3/MessageBox.h>
+#include <qt3/Pointer.h>
 #include <qt3/Text.h>
+#include <qwidget.h>
 #include <ruqlib2core/CValueString.h>
 
 namespace TEVU {
@@ -40,6 +42,19 @@ int askYesNoCancel(QWidget* parent, const QString& caption, const QString& text)
         parent, caption, text, qt3::MessageBox::Yes | qt3::MessageBox::Default, qt3::MessageBox::No,
         qt3::MessageBox::Cancel | qt3::MessageBox::Escape);
 }
+
+/// An application may destroy the parent under an open dialog, and this object with it: then nothing of
+/// it may be touched any more.
+class ParentWatch {
+public:
+    explicit ParentWatch(QWidget* parent) : m_bHasParent(parent), m_parent(parent) {}
+
+    bool isGone() const { return m_bHasParent && !m_parent; }
+
+private:
+    bool m_bHasParent;
+    qt3::Pointer<QWidget> m_parent;
+};
 
 bool isUsableForReading(const QString& path, QWidget* parent) {
     return CFileDialog::IsFileReadable(path, parent, false) &&
@@ -73,13 +88,18 @@ CFileDialog& CFileDialog::operator=(const CFileDialog& other) = default;
 CFileDialog::~CFileDialog() = default;
 
 bool CFileDialog::GetOpenFileName(const std::string& filter, const std::string& startDir) {
+    const ParentWatch parent(m_pParent);
     const QString directory = StartDirectory(startDir);
     QString path;
-    do {
+    bool usable = false;
+    while (!usable) {
         path = askForFile(directory, qt3::fromAscii(filter), m_pParent);
         if (path.isEmpty())
             return false;
-    } while (!isUsableForReading(path, m_pParent));
+        usable = isUsableForReading(path, m_pParent);
+        if (parent.isGone())
+            return false;
+    }
 
     rememberLoadingDirectory(qt3::ascii(qt3::dirPath(path)));
     pushLastImage(qt3::ascii(path));
@@ -89,13 +109,18 @@ bool CFileDialog::GetOpenFileName(const std::string& filter, const std::string& 
 
 unsigned short CFileDialog::GetOpenFileNames(const std::string& filter,
                                              const std::string& startDir) {
+    const ParentWatch parent(m_pParent);
     const QString directory = StartDirectory(startDir);
     QStringList paths;
-    do {
+    bool usable = false;
+    while (!usable) {
         paths = askForFiles(directory, qt3::fromAscii(filter), m_pParent);
         if (paths.isEmpty())
             return 0;
-    } while (!areUsableForReading(paths, m_pParent));
+        usable = areUsableForReading(paths, m_pParent);
+        if (parent.isGone())
+            return 0;
+    }
 
     rememberLoadingDirectory(qt3::ascii(qt3::dirPath(paths.first())));
     Keep(paths);
@@ -105,6 +130,7 @@ unsigned short CFileDialog::GetOpenFileNames(const std::string& filter,
 
 bool CFileDialog::GetSaveFileName(const std::string& fileName, const std::string& filter,
                                   EnSaveMode mode) {
+    const ParentWatch parent(m_pParent);
     std::string proposal = fileName.empty() ? "Untitled" : fileName;
     if (!filter.empty())
         ValidateFileExtension(proposal, filter);
@@ -114,6 +140,8 @@ bool CFileDialog::GetSaveFileName(const std::string& fileName, const std::string
     while (outcome == eRejected) {
         path = askForName(SaveStartPath(proposal), qt3::fromAscii(filter), m_pParent);
         outcome = path.isEmpty() ? eCancelled : CheckForSaving(path, filter, mode);
+        if (parent.isGone())
+            return false;
     }
     if (outcome == eCancelled)
         return false;

@@ -3,6 +3,7 @@
 #include "ModalDriver.h"
 
 #include <gtest/gtest.h>
+#include <memory>
 #include <qwidget.h>
 
 using support::ModalDriver;
@@ -28,6 +29,17 @@ TEST(ColorDialog, GivesTheColorChosen) {
     driver.expectColorDialog({}).accept(QColor(1, 2, 3));
 
     EXPECT_EQ(choose(QColor(255, 255, 255)), QColor(1, 2, 3));
+}
+
+TEST(ColorDialog, GivesAnInvalidColorWhenItsParentIsDestroyed) {
+    auto window = std::make_unique<QWidget>(nullptr);
+    auto* page = new QWidget(window.get());
+    ModalDriver driver;
+    driver.expectColorDialog({}).under(page).before([&] { window.reset(); });
+
+    EXPECT_FALSE(choose(QColor(255, 255, 255), page).isValid());
+
+    EXPECT_FALSE(window);
 }
 
 TEST(ColorDialog, GivesAnInvalidColorWithoutAChoice) {

@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <memory>
 #include <qapplication.h>
 #include <qfiledialog.h>
 #include <qwidget.h>
@@ -115,6 +116,28 @@ TEST_P(FileDialogWays, KeepNameCaptionParentAndFilters) {
         .cancel();
 
     EXPECT_EQ(run(m_dir.path(), c_filter, &window), Lines());
+}
+
+TEST_P(FileDialogWays, EndWithoutAChoiceWhenTheirParentIsDestroyed) {
+    auto window = std::make_unique<QWidget>(nullptr);
+    auto* page = new QWidget(window.get());
+    ModalDriver driver;
+    driver.expectFileDialog({}).under(page).before([&] { window.reset(); });
+
+    EXPECT_EQ(run(m_dir.path(), c_filter, page), Lines());
+
+    EXPECT_FALSE(window);
+}
+
+TEST_P(FileDialogWays, LeaveTheOtherChildrenOfTheirParentAlone) {
+    QWidget window(nullptr);
+    const QWidget earlier(&window);
+    ModalDriver driver;
+    driver.expectFileDialog({}).cancel();
+
+    EXPECT_EQ(run(m_dir.path(), c_filter, &window), Lines());
+
+    EXPECT_EQ(support::descendants(&window).size(), 1u);
 }
 
 TEST_P(FileDialogWays, FiltersMayBeSeparatedByLineBreaks) {

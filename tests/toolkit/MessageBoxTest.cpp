@@ -4,6 +4,7 @@
 #include "ModalDriver.h"
 
 #include <gtest/gtest.h>
+#include <memory>
 #include <qapplication.h>
 #include <qlabel.h>
 #include <qwidget.h>
@@ -53,6 +54,19 @@ std::vector<QLabel*> labelsWith(const QString& text) {
 } // namespace
 
 class MessageBoxKinds : public testing::TestWithParam<Kind> {};
+
+TEST_P(MessageBoxKinds, AnswerNothingWhenTheirParentIsDestroyed) {
+    auto window = std::make_unique<QWidget>(nullptr);
+    auto* page = new QWidget(window.get());
+    ModalDriver driver;
+    driver.expectMessage({}).under(page).before([&] { window.reset(); });
+
+    EXPECT_EQ(GetParam().ask(page, "Caption", "Text", MessageBox::Yes,
+                             MessageBox::Cancel | MessageBox::Escape, 0),
+              MessageBox::NoButton);
+
+    EXPECT_FALSE(window);
+}
 
 TEST_P(MessageBoxKinds, ShowTheirIconCaptionTextAndButtonsInTheOrderGiven) {
     QWidget window(nullptr);

@@ -1,5 +1,7 @@
 #include <qt3/MessageBox.h>
 
+#include "DialogGuard.h"
+
 #include <qmessagebox.h>
 
 namespace qt3 {
@@ -11,6 +13,7 @@ namespace {
 // words.
 int ask(QMessageBox::Icon icon, const char* name, QWidget* parent, const QString& caption,
         const QString& text, const int (&buttons)[3]) {
+    const DialogGuard guard(parent, "QMessageBox");
     QMessageBox* box = new QMessageBox(caption, QString::null, icon, buttons[0], buttons[1],
                                        buttons[2], parent, name, true, Qt::WDestructiveClose);
     box->setTextFormat(Qt::PlainText);

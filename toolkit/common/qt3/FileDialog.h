@@ -30,6 +30,7 @@ namespace qt3 {
 /// - The result is an absolute path, or empty after Cancel, Escape and closing. A link to a file is
 ///   returned as the link; links to folders on the way to it are resolved.
 /// - Nothing is appended to a name, and saving never asks about an existing file.
+/// - When \a parent is destroyed under the open dialog, the dialog goes too, as after Cancel.
 class RUQGUI_EXPORT FileDialog {
 public:
     static QString getOpenFileName(const QString& startWith, const QString& filter, QWidget* parent,

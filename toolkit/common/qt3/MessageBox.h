@@ -26,6 +26,7 @@ namespace qt3 {
 /// - Return presses the button flagged Default. Without such a button it presses the first one.
 /// - The text is plain: what looks like markup and every "&" stay as typed.
 /// - Without any button there is one Ok.
+/// - When \a parent is destroyed under the open box, the box goes too, and answers 0.
 ///
 /// The place of the buttons is the host's: in the order given on Qt 3.3, by their role on Qt 6.
 /// \a parent may be null.
