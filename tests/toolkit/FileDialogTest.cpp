@@ -198,6 +198,20 @@ TEST_P(FileDialogWays, WithoutAStartPathShowTheFolderLastUsed) {
     run("");
 }
 
+TEST_P(FileDialogWays, WithoutAStartPathShowTheWorkingDirectoryAfterAFolderThatHasGone) {
+    ModalDriver driver;
+    driver.expectFileDialog({}).cancel();
+    run(m_dir.makeFolder("gone"));
+    m_dir.remove("gone");
+#if QT_VERSION < 0x040000
+    driver.expectMessage({"Error"}).enter(); // the toolkit's own
+    driver.expectMessage({"Error"}).enter();
+#endif
+    driver.expectFileDialog(shows(std::filesystem::current_path(), "")).cancel();
+
+    run("");
+}
+
 TEST_P(FileDialogWays, TypedPathDoesNotChangeTheFolderLastUsed) {
     m_dir.makeFolder("other");
     m_dir.writeFile("other/scan.tif");

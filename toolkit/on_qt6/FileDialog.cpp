@@ -16,8 +16,11 @@ QString& lastFolder() {
     return folder;
 }
 
-// Settles the folder to show, and gives the name to fill in.
+// Settles the folder to show, and gives the name to fill in. A missing folder must not be shown: the
+// toolkit would fill in its name.
 QString takeStartPath(const QString& path) {
+    if (!QFileInfo::exists(lastFolder()))
+        lastFolder() = QDir::currentPath();
     if (path.isEmpty())
         return QString();
     const QFileInfo start(path);

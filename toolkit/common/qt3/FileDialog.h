@@ -23,7 +23,8 @@ namespace qt3 {
 /// the
 ///   file's name; for a file in a missing folder and for an empty text, the last used folder is
 ///   shown and the name field is empty. The last used folder is one for the whole process,
-///   remembered on cancel too. The first one is the working directory.
+///   remembered on cancel too. The first one is the working directory, and so is that after one
+///   that has gone (Qt 3.3 complains about that in boxes of its own first).
 /// - \a filter: filters separated by ";;" (or by newlines), each a text with its patterns in
 ///   parentheses. An empty filter shows all files.
 /// - \a name becomes the dialog's object name, \a caption its caption.
