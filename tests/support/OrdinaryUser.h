@@ -2,20 +2,13 @@
 #define RUQGUI_TESTS_SUPPORT_ORDINARYUSER_H
 
 #include "NotOnWindows.h"
+#include "Rerun.h"
 
 #include <gtest/gtest.h>
-#include <string>
 
 namespace support {
 
 bool isSuperuser();
-/// Whether this is the run of a test that another run has started.
-bool isRerun();
-
-struct Outcome {
-    bool passed;
-    std::string output;
-};
 
 /// Runs the current test once more, in a program of its own, as the user "nobody".
 Outcome runCurrentTestAsOrdinaryUser();
