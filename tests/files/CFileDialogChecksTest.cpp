@@ -1,6 +1,7 @@
 #include <CFileDialog.h>
 
 #include "FileDialogTest.h"
+#include "ScriptedUser.h"
 
 #include <Events.h>
 #include <OrdinaryUser.h>
@@ -36,6 +37,26 @@ TEST_F(CFileDialogReadableTest, LockedFileFailsSilently) {
 
     EXPECT_FALSE(CFileDialog::IsFileReadable(toText(dir.path("a.tif")), nullptr, true));
     EXPECT_EQ(user.log(), Lines());
+}
+
+TEST_F(CFileDialogReadableTest, FileInALockedFolderFailsSilently) {
+    RUN_AS_ORDINARY_USER();
+    const std::string path = makeFile("locked/a.tif");
+    dir.setPermissions("locked", 0000);
+
+    EXPECT_FALSE(CFileDialog::IsFileReadable(toText(path), nullptr, true));
+}
+
+TEST_F(CFileDialogReadableTest, LinkIsWhatItLeadsTo) {
+    RUN_AS_ORDINARY_USER();
+    const std::string readable = dir.makeLink("readable.tif", makeFile("a.tif"));
+    const std::string locked = dir.makeLink("locked.tif", makeFile("b.tif"));
+    const std::string toNothing = dir.makeLink("none.tif", dir.path("c.tif"));
+    dir.setPermissions("b.tif", 0000);
+
+    EXPECT_TRUE(CFileDialog::IsFileReadable(toText(readable), nullptr, true));
+    EXPECT_FALSE(CFileDialog::IsFileReadable(toText(locked), nullptr, true));
+    EXPECT_FALSE(CFileDialog::IsFileReadable(toText(toNothing), nullptr, true));
 }
 
 TEST_F(CFileDialogReadableTest, MissingFileIsAskedAboutUntilItIsThere) {
@@ -119,6 +140,17 @@ TEST_F(CFileDialogWritableTest, ExistingFileIsNotTouched) {
     EXPECT_EQ(dir.read("results/old.tif"), "pixels");
     EXPECT_EQ(fs::last_write_time(dir.path("results/old.tif")), ofFile);
     EXPECT_EQ(fs::last_write_time(dir.path("results")), ofFolder);
+}
+
+TEST_F(CFileDialogWritableTest, FileThatAppearsJustBeforeTheTrialIsNotTouched) {
+    struct LateFile : ScriptedUser {
+        bool exists(const QString&) override { return false; }
+    } script;
+    const std::string path = makeFile("late.tif");
+
+    EXPECT_FALSE(CFileDialog::IsFileWritable(toText(path), nullptr, true));
+
+    EXPECT_EQ(dir.read("late.tif"), "pixels");
 }
 
 TEST_F(CFileDialogWritableTest, EmptyExistingFileStays) {

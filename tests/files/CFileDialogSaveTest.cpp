@@ -43,6 +43,14 @@ bool nativeDialogIsOff() {
 #endif
 }
 
+// Of the toolkit itself: the folder last shown has gone.
+void expectWordsAboutAMissingFolder([[maybe_unused]] support::ModalDriver& user) {
+#if QT_VERSION < 0x040000
+    user.expectMessage({"Error"}).enter();
+    user.expectMessage({"Error"}).enter();
+#endif
+}
+
 class CFileDialogSaveTest : public FileDialogTest {
 protected:
     static Message overwrite(const std::string& path) { return existing("Overwrite", path); }
@@ -723,6 +731,49 @@ TEST_F(CFileDialogSaveTest, NameWithoutTheAppendedExtensionIsNotAskedAbout) {
     EXPECT_TRUE(ask(dialog));
 
     EXPECT_EQ(dialog.FilePath(), dir.path("a.png"));
+}
+
+TEST_F(CFileDialogSaveTest, FolderChosenAsAFileIsAskedAboutLikeAFile) {
+    CFileDialog dialog;
+    const std::string path = results() + "/.";
+    ScriptedUser script;
+    script.answer(path);
+    script.answer("Yes");
+
+    EXPECT_TRUE(dialog.GetSaveFileName("", "Plain (*.)", CFileDialog::eOverwrite));
+
+    const Lines log = script.takeLog();
+    ASSERT_EQ(log.size(), 3u);
+    EXPECT_EQ(log[2], script::warning("Overwrite File", "Overwrite\n'" + path + "'?",
+                                      "Yes (default), No, Cancel (escape)"));
+    EXPECT_EQ(dialog.FileExtension(false), "");
+    EXPECT_TRUE(dir.exists("results"));
+}
+
+TEST_F(CFileDialogSaveTest, FolderOfTheProposalMayVanishUnderAQuestion) {
+    CFileDialog dialog;
+    user.expectFileDialog(saveIn(results(), "scan.png")).choose(dir.path("a.jpg"));
+    user.expectWarning(wrongType(".png")).before([this] { dir.remove("results"); }).answer("No");
+    expectWordsAboutAMissingFolder(user);
+    user.expectFileDialog(saveIn(workingFolder(), "")).choose(dir.path("a.png"));
+
+    EXPECT_TRUE(ask(dialog, dir.path("results/scan")));
+
+    EXPECT_EQ(dialog.FilePath(), dir.path("a.png"));
+}
+
+TEST_F(CFileDialogSaveTest, FolderOfTheChosenFileMayVanishUnderAQuestion) {
+    CFileDialog dialog;
+    const std::string path = results() + "/a";
+    user.expectFileDialog({}).choose(path);
+    user.expectWarning(wrongType(".png")).before([this] { dir.remove("results"); }).answer("Yes");
+    user.expectWarning(unwritable(path + ".png")).answer("Cancel");
+    user.expectFileDialog({}).cancel();
+
+    EXPECT_FALSE(ask(dialog));
+
+    expectUntouched(dialog);
+    EXPECT_FALSE(dir.exists("results"));
 }
 
 TEST_F(CFileDialogSaveTest, NoToAnExistingFileStillRunsTheWritabilityCheck) {

@@ -266,6 +266,17 @@ TEST_F(CFileLineWidgetTest, TextIsProposedAsItsBytesAre) {
     click(&line);
 }
 
+TEST_F(CFileLineWidgetTest, FilterPassesAsItsBytesAre) {
+    const QString filter = toText("Gr\xc3\xb6\xc3\x9f"
+                                  "e (*.png)");
+    Line line(CFileLineWidget::eOpenFile, QString(), nullptr, filter);
+    support::FileRequest expected = openIn(home());
+    expected.filters = {support::text(filter)};
+    user.expectFileDialog(expected).cancel();
+
+    click(&line);
+}
+
 TEST_F(CFileLineWidgetTest, SavingWithAMalformedFilterThrowsAndLeavesTheText) {
     Line line(CFileLineWidget::eSaveFile, "typed", nullptr, "All (*)");
 
