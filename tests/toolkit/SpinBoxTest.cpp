@@ -71,6 +71,84 @@ TEST(SpinBoxTest, HasWhatItIsMadeWith) {
     EXPECT_EQ(qt3::name(&box), "box");
 }
 
+TEST(SpinBoxTest, NumberBelowTheMinimumIsClampedWhenItIsCommitted) {
+    StFocusedBox shown;
+    shown.box.setMinValue(7);
+
+    shown.type("1\n");
+
+    EXPECT_EQ(shown.box.value(), 7);
+    EXPECT_EQ(shown.text(), "7");
+    EXPECT_EQ(shown.recorder.take(), (Lines{"box.valueChanged(7)"}));
+}
+
+TEST(SpinBoxTest, SignAloneGivesWayToTheValueInForce) {
+    StFocusedBox shown;
+    shown.box.setMinValue(-20);
+
+    shown.type("-\n");
+
+    EXPECT_EQ(shown.box.value(), 42);
+    EXPECT_EQ(shown.text(), "42");
+}
+
+TEST(SpinBoxTest, NumbersCanBeTypedWhereOnlyOneIsAllowed) {
+    StFocusedBox shown;
+    shown.box.setMinValue(100);
+
+    shown.type("007");
+    EXPECT_EQ(shown.text(), "007");
+
+    EXPECT_EQ(shown.box.value(), 100);
+    EXPECT_EQ(shown.text(), "100");
+}
+
+TEST(SpinBoxTest, StepByKeyGoesFromTheTypedNumberAlsoAwayFromAnEnd) {
+    StFocusedBox shown;
+    shown.box.setValue(0);
+    shown.recorder.take();
+
+    shown.type("50");
+    support::keyClick(&shown.box, Qt::Key_Down);
+
+    EXPECT_EQ(shown.recorder.take(), (Lines{"box.valueChanged(50)", "box.valueChanged(49)"}));
+}
+
+TEST(SpinBoxTest, StepByWheelGoesFromTheTypedNumberAlsoAwayFromAnEnd) {
+    StFocusedBox shown;
+    shown.box.setValue(100);
+    shown.recorder.take();
+
+    shown.type("50");
+    support::wheel(&shown.box, 120);
+
+    EXPECT_EQ(shown.recorder.take(), (Lines{"box.valueChanged(50)", "box.valueChanged(51)"}));
+}
+
+TEST(SpinBoxTest, NewStepLeavesTypedTextWaiting) {
+    StFocusedBox shown;
+    shown.type("15");
+
+    shown.box.setLineStep(7);
+
+    EXPECT_EQ(shown.text(), "15");
+    EXPECT_EQ(shown.recorder.take(), Lines());
+    EXPECT_EQ(shown.box.value(), 15);
+    EXPECT_EQ(shown.recorder.take(), (Lines{"box.valueChanged(15)"}));
+}
+
+TEST(SpinBoxTest, RefusedKeyDropsTheSelectionSoThatTheNextOneIsAppended) {
+    StFocusedBox shown;
+
+    shown.type("-7"); // nothing below 0
+
+    EXPECT_EQ(shown.text(), "42"); // 427 is refused too
+    shown.type("-");
+    support::keyClick(&shown.box, Qt::Key_Backspace);
+    support::typeText(&shown.box, "7");
+    EXPECT_EQ(shown.text(), "47");
+}
+
 TEST(SpinBoxTest, StartsAtItsMinimumWhateverItsSign) {
     QWidget window;
     EXPECT_EQ(qt3::SpinBox(-50, 50, 1, &window).value(), -50);

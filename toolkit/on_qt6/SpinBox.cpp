@@ -1,11 +1,17 @@
 #include <qt3/SpinBox.h>
 
+#include <qt3/LineEdit.h>
+
+#include <qevent.h>
+#include <qlineedit.h>
+
 #include <cstdlib>
 
 namespace qt3 {
 
 SpinBox::SpinBox(QWidget* parent, const char* name) : Bridged<QSpinBox>(name, parent) {
     setKeyboardTracking(false);
+    setLineEdit(new LineEdit(this, "qt_spinbox_lineedit")); // for what it does to refused keys
 }
 
 SpinBox::SpinBox(int minValue, int maxValue, int step, QWidget* parent, const char* name)
@@ -23,12 +29,56 @@ int SpinBox::value() const {
 }
 
 void SpinBox::setLineStep(int step) {
+    const QString typed = lineEdit()->text();
     setSingleStep(std::abs(step));
+    if (lineEdit()->text() != typed)
+        lineEdit()->setText(typed); // it goes on waiting
 }
 
 void SpinBox::stepBy(int steps) {
     interpretText();
     Bridged<QSpinBox>::stepBy(steps);
+}
+
+QValidator::State SpinBox::validate(QString& input, int&) const {
+    const QString stripped = input.trimmed();
+    if (stripped.isEmpty() || (minimum() < 0 && stripped == QLatin1String("-")))
+        return QValidator::Intermediate;
+    bool bNumber = false;
+    const int number = input.toInt(&bNumber);
+    if (!bNumber || (number < 0 && minimum() >= 0))
+        return QValidator::Invalid;
+    if (number >= minimum() && number <= maximum())
+        return QValidator::Acceptable;
+    const bool bTooFar = number >= 0 ? number > maximum() : number < minimum();
+    return bTooFar ? QValidator::Invalid : QValidator::Intermediate;
+}
+
+// What Qt 3.3 does with a number outside the range that may yet become one inside, such as a 1 below a
+// minimum of 7. The toolkit itself would go back to the value before.
+void SpinBox::fixup(QString& input) const {
+    bool bNumber = false;
+    const int number = input.toInt(&bNumber);
+    if (bNumber)
+        input = textFromValue(qBound(minimum(), number, maximum()));
+}
+
+// Before a step by key or wheel typed text is committed, even if no step would be possible from the
+// value before.
+void SpinBox::keyPressEvent(QKeyEvent* event) {
+    QLineEdit* const editor = lineEdit();
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
+        interpretText();
+    // The toolkit selects all from the end to the start. Where a refused key drops the selection, the
+    // next one shall be appended.
+    else if (!event->text().isEmpty() && editor->selectedText() == editor->text())
+        editor->selectAll();
+    Bridged<QSpinBox>::keyPressEvent(event);
+}
+
+void SpinBox::wheelEvent(QWheelEvent* event) {
+    interpretText();
+    Bridged<QSpinBox>::wheelEvent(event);
 }
 
 } // namespace qt3

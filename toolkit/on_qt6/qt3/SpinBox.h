@@ -33,6 +33,18 @@ public:
 
     /// Commits typed text first, with an announcement of its own.
     void stepBy(int steps) override;
+
+    /// Acceptable is a number of the range; Intermediate one that further digits may bring into it, and
+    /// what may become a number; Invalid all else. Blanks around a number do not count.
+    QValidator::State validate(QString& input, int& position) const override;
+
+    /// A number outside the range is clamped when it is committed; what is no number gives way to the
+    /// value in force.
+    void fixup(QString& input) const override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 };
 
 } // namespace qt3
