@@ -62,6 +62,11 @@ Button buttonOf(int number) {
 
 const int c_nLeft = 1;
 
+bool canHaveFocus(const QWidget* widget) {
+    return widget->isVisible() && widget->isEnabled() &&
+           static_cast<int>(widget->focusPolicy()) != 0;
+}
+
 void setShown(QWidget* widget, bool shown) {
     if (shown)
         widget->show();
@@ -87,21 +92,33 @@ std::string shown(const QString& text) {
     return quoted(support::text(text));
 }
 
-void WidgetSubject::target(QWidget* widget, const std::string& label) {
+void WidgetSubject::target(QWidget* widget, const std::string& label, bool takesMouse) {
     m_vTargets.emplace_back(widget);
+    if (takesMouse)
+        m_vMouseTargets.emplace_back(widget);
     m_stage.name(widget, label);
 }
 
-QWidget* WidgetSubject::targetOf(const Operation& operation, std::size_t index) {
-    if (m_vTargets.empty())
-        return nullptr;
-    const std::size_t which = static_cast<unsigned>(operation.integer(index)) % m_vTargets.size();
-    return m_vTargets[which];
+void WidgetSubject::forgetTargets() {
+    m_vTargets.clear();
+    m_vMouseTargets.clear();
 }
 
-QPoint WidgetSubject::pointOf(const Operation& operation, const QWidget* target) const {
-    return QPoint(target->width() * operation.integer(1) / 1000,
-                  target->height() * operation.integer(2) / 1000);
+QWidget* WidgetSubject::targetOf(const Operation& operation, const Targets& targets) {
+    const auto which = static_cast<unsigned>(operation.integer(0));
+    return targets.empty() ? nullptr : static_cast<QWidget*>(targets[which % targets.size()]);
+}
+
+// On Qt 3.3 the buttons belong to a child.
+void WidgetSubject::clickSpinBox(QWidget* spinBox, bool up) {
+    auto* const controls = support::child<QWidget>(spinBox, "controls");
+    support::mouseClick(controls ? controls : spinBox, QPoint(60, up ? 6 : 18));
+}
+
+QPoint WidgetSubject::pointOf(const Operation& operation, std::size_t index,
+                              const QWidget* target) {
+    return QPoint(target->width() * operation.integer(index) / 1000,
+                  target->height() * operation.integer(index + 1) / 1000);
 }
 
 void WidgetSubject::addWidgetActions() {
@@ -122,20 +139,28 @@ void WidgetSubject::addWidgetActions() {
            [=](const Operation& operation) { show(widget(), operation.flag(0)); });
     action("showPlace", 1, {Taste::flag(85)},
            [=](const Operation& operation) { show(m_stage.place(), operation.flag(0)); });
-    const bool tiny = m_taste.isRubbish();
-    action("resize", 1, {Taste::index(tiny ? 0 : 120, 300), Taste::index(tiny ? 0 : 24, 40)},
+    action("resize", 1, {Taste::index(0, 1000), Taste::index(0, 1000)},
            [this](const Operation& operation) {
                if (widget() && (widget()->isVisible() || m_taste.isRubbish()))
-                   widget()->resize(operation.integer(0), operation.integer(1));
+                   widget()->resize(sizeOf(operation));
            });
     action("focus", 4, {which}, [this](const Operation& operation) {
-        if (QWidget* const chosen = targetOf(operation))
+        QWidget* const chosen = targetOf(operation, m_vTargets);
+        if (chosen && canHaveFocus(chosen))
             chosen->setFocus();
     });
     action("focusBefore", 1, {}, [this](const Operation&) {
         if (m_stage.before())
             m_stage.before()->setFocus();
     });
+}
+
+QSize WidgetSubject::sizeOf(const Operation& operation) {
+    const QSize least = m_taste.isRubbish() ? QSize(0, 0) : leastSize();
+    const QSize more = greatestSize() - least;
+    const auto part = [](int all, int thousandths) { return all * thousandths / 2000 * 2; };
+    return QSize(least.width() + part(more.width(), operation.integer(0)),
+                 least.height() + part(more.height(), operation.integer(1)));
 }
 
 void WidgetSubject::addMouseActions() {
@@ -146,8 +171,8 @@ void WidgetSubject::addMouseActions() {
     const std::vector<Source> all = {which, along, along, button, modifier};
     const auto mouse = [this](auto send) {
         return [this, send](const Operation& operation) {
-            if (QWidget* const chosen = targetOf(operation))
-                send(chosen, pointOf(operation, chosen), buttonOf(operation.integer(3)),
+            if (QWidget* const chosen = targetOf(operation, m_vMouseTargets))
+                send(chosen, pointOf(operation, 1, chosen), buttonOf(operation.integer(3)),
                      modifierOf(operation.integer(4)));
         };
     };
@@ -155,6 +180,20 @@ void WidgetSubject::addMouseActions() {
     action("move", 8, all, mouse(support::mouseMove));
     action("release", 4, all, mouse(support::mouseRelease));
     action("doubleClick", 1, all, mouse(support::mouseDoubleClick));
+}
+
+void WidgetSubject::addGestureActions() {
+    const Source along = Taste::index(-200, 1200);
+    action("gesture", 6, {Taste::index(0, 5), along, along, along, along, along, along},
+           [this](const Operation& operation) {
+               QWidget* const chosen = targetOf(operation, m_vMouseTargets);
+               if (!chosen)
+                   return;
+               support::mousePress(chosen, pointOf(operation, 1, chosen));
+               support::mouseMove(chosen, pointOf(operation, 3, chosen));
+               support::mouseMove(chosen, pointOf(operation, 5, chosen));
+               support::mouseRelease(chosen, pointOf(operation, 5, chosen));
+           });
 }
 
 void WidgetSubject::addKeyActions(const std::vector<std::string>& keys) {
@@ -169,18 +208,45 @@ void WidgetSubject::typeKey(const std::string& name, Modifier modifier) {
         modifier = Modifier::None;
     QWidget* const focused = m_stage.focusWidget();
     const std::string who = m_stage.focus();
-    if (!focused || who == "before" || who == "behind")
+    if (!focused || who == "before" || who == "behind" || !takesKey(name))
         return;
     const Key key = keyOf(name);
     support::sendKey(focused, key.code, modifier, typedText(key, modifier).c_str());
 }
 
+// With all selected first: where the cursor stands in a toolkit's own control is that one's choice.
+void WidgetSubject::addTypingActions() {
+    const std::vector<std::string> typed = {"5",    "42", "7",   "-3", "100", "250", "0",    "99",
+                                            "12\b", "a",  "1a2", "",   "007", "1.5", "5\b9", " 6"};
+    const Source end = Taste::amongTexts({"", "", "", "Return", "Enter", "Tab", "Up", "Down"});
+    action("type", 6, {Taste::amongTexts(typed), end}, [this](const Operation& operation) {
+        QWidget* const focused = m_stage.focusWidget();
+        auto* field = dynamic_cast<QLineEdit*>(focused);
+        field = field || !focused ? field : support::child<QLineEdit>(focused);
+        if (!field || m_stage.focus() == "before" || m_stage.focus() == "behind")
+            return;
+        field->selectAll();
+        for (const char c : operation.text(0))
+            typeKey(c == '\b' ? "Backspace" : std::string(1, c), Modifier::None);
+        if (!operation.text(1).empty())
+            typeKey(operation.text(1), Modifier::None);
+    });
+}
+
 void WidgetSubject::addWheelActions() {
-    const Source delta =
-        Taste::among({120, -120, 240, -240, 60, -60, 119, -119, 30, 0, 121, 360, -600});
-    action("wheel", 3, {Taste::index(0, 5), delta, Taste::among({0, 0, 0, 1, 2})},
+    addWheelAction({120, -120, 240, -240, 60, -60, 119, -119, 30, 0, 121, 360, -600},
+                   {0, 0, 0, 1, 2});
+}
+
+void WidgetSubject::addNotchActions() {
+    addWheelAction({120, -120}, {0});
+}
+
+void WidgetSubject::addWheelAction(const std::vector<double>& deltas,
+                                   const std::vector<double>& modifiers) {
+    action("wheel", 3, {Taste::index(0, 5), Taste::among(deltas), Taste::among(modifiers)},
            [this](const Operation& operation) {
-               if (QWidget* const chosen = targetOf(operation))
+               if (QWidget* const chosen = targetOf(operation, m_vTargets))
                    support::wheel(chosen, operation.integer(1), modifierOf(operation.integer(2)));
            });
 }

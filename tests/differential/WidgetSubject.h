@@ -6,6 +6,7 @@
 #include <Events.h>
 #include <qlineedit.h>
 #include <qpoint.h>
+#include <qsize.h>
 
 namespace differential {
 
@@ -14,18 +15,28 @@ class WidgetSubject : public Subject {
 public:
     using Subject::Subject;
 
+    static std::string fieldState(const QLineEdit* field);
+
 protected:
     /// Enabling, showing, resizing, the place around it, the focus, copies of texts.
     void addWidgetActions();
     void addMouseActions();
+    /// Whole gestures of the left button, for the toolkit's own controls: what else happens while one
+    /// is held is their own affair.
+    void addGestureActions();
     /// Keys go to the widget that has the focus, as a user's do, and nowhere if it is outside.
     void addKeyActions(const std::vector<std::string>& keys);
     void addWheelActions();
+    /// Single notches without modifiers, for the toolkit's own controls.
+    void addNotchActions();
     void addTypingActions();
 
-    /// Names a widget, and makes it one that events can go to.
-    void target(QWidget* widget, const std::string& label);
-    void forgetTargets() { m_vTargets.clear(); }
+    /// Names a widget, and makes it one that wheel and focus, and by default the mouse, can go to.
+    void target(QWidget* widget, const std::string& label, bool takesMouse = true);
+    void forgetTargets();
+
+    /// Presses and releases a button of the toolkit's spin box, which must be 70 by 24.
+    static void clickSpinBox(QWidget* spinBox, bool up);
 
     /// The main widget; null after its death.
     virtual QWidget* widget() = 0;
@@ -33,19 +44,30 @@ protected:
     /// Not through a plain pointer where the class has an override.
     virtual void setEnabled(bool enabled) { widget()->setEnabled(enabled); }
 
+    /// Whether the widget that has the focus is tried with that key.
+    virtual bool takesKey(const std::string& /*name*/) { return true; }
+
+    /// Between these sizes, where they are even, the styles and layouts of both toolkits agree.
+    virtual QSize leastSize() { return QSize(120, 24); }
+    virtual QSize greatestSize() { return QSize(300, 40); }
+
     /// Geometry, enabled, visible, and who has the focus.
     std::string widgetState();
-    static std::string fieldState(const QLineEdit* field);
     static std::string rectText(const QRect& rect);
 
-    QWidget* targetOf(const Operation& operation, std::size_t index = 0);
-    /// Arguments 1 and 2 are thousandths of the target's width and height.
-    QPoint pointOf(const Operation& operation, const QWidget* target) const;
+    /// Two arguments are thousandths of the target's width and height.
+    static QPoint pointOf(const Operation& operation, std::size_t index, const QWidget* target);
 
 private:
+    void addWheelAction(const std::vector<double>& deltas, const std::vector<double>& modifiers);
+    QSize sizeOf(const Operation& operation);
     void typeKey(const std::string& name, support::Modifier modifier);
 
-    std::vector<qt3::Pointer<QWidget>> m_vTargets;
+    using Targets = std::vector<qt3::Pointer<QWidget>>;
+    static QWidget* targetOf(const Operation& operation, const Targets& targets);
+
+    Targets m_vTargets;
+    Targets m_vMouseTargets;
 };
 
 /// The keys that all widgets of the library are tried with. \sa Exceptions.h

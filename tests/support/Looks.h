@@ -5,6 +5,7 @@
 #include <qlayout.h>
 #include <qpalette.h>
 #include <qt3/Global.h>
+#include <qt3/TextEdit.h>
 #include <qwidget.h>
 #include <string>
 #include <vector>
@@ -26,6 +27,13 @@ int margin(QLayout* layout);
 
 /// Sets the colour of the text on buttons for one state.
 void setButtonText(QWidget* widget, QPalette::ColorGroup state, const QColor& color);
+
+/// The count of characters and line breaks before the cursor of a text edit.
+int cursorOf(const qt3::TextEdit* edit);
+/// Its selected text in UTF-8, with "\n" between paragraphs.
+std::string selectionOf(const qt3::TextEdit* edit);
+/// One line for each paragraph, however long.
+void keepLinesWhole(qt3::TextEdit* edit);
 
 /// The widget flag of a dialog.
 unsigned int dialogFlag();

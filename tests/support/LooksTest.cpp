@@ -1,5 +1,7 @@
 #include "Looks.h"
 
+#include "Events.h"
+
 #include <gtest/gtest.h>
 #include <qlineedit.h>
 #include <qpushbutton.h>
@@ -60,4 +62,20 @@ TEST(Looks, ButtonTextIsSetForOneStateOnly) {
     EXPECT_EQ(qt3::colorGroup(&button, QPalette::Disabled).buttonText(), QColor(1, 2, 3));
     EXPECT_EQ(qt3::colorGroup(&button, QPalette::Active).buttonText(), before);
     EXPECT_NE(before, QColor(1, 2, 3));
+}
+
+TEST(Looks, TellCursorAndSelectionOfATextEdit) {
+    qt3::TextEdit edit(nullptr);
+    edit.setText("ab\ncd\nef");
+    support::keepLinesWhole(&edit);
+    support::giveFocus(&edit);
+    EXPECT_EQ(support::cursorOf(&edit), 0);
+
+    support::keyClick(&edit, Qt::Key_Down);
+    support::keyClick(&edit, Qt::Key_Right);
+    EXPECT_EQ(support::cursorOf(&edit), 4);
+
+    support::keyClick(&edit, Qt::Key_Right, support::Modifier::Shift);
+    support::keyClick(&edit, Qt::Key_Right, support::Modifier::Shift);
+    EXPECT_EQ(support::selectionOf(&edit), "d\n");
 }

@@ -59,14 +59,14 @@ std::string ScriptedUser::next() {
 
 void ScriptedUser::checkParent(const QWidget* parent) {
     if (parent != m_pParent)
-        m_vLog.push_back("the parent is another widget");
+        note("the parent is another widget");
 }
 
 QStringList ScriptedUser::run(const FileDialogCall& call) {
     const char* kinds[] = {"open", "open several", "save"};
     checkParent(call.parent);
-    m_vLog.push_back(dialogLine(kinds[call.kind], text(call.start), text(call.filter), call.name,
-                                text(call.caption)));
+    note(dialogLine(kinds[call.kind], text(call.start), text(call.filter), call.name,
+                    text(call.caption)));
     m_vStarts.push_back(text(call.start));
     QStringList paths;
     std::istringstream answer(next());
@@ -75,14 +75,29 @@ QStringList ScriptedUser::run(const FileDialogCall& call) {
     return paths;
 }
 
-int ScriptedUser::warn(const WarningCall& call) {
+int ScriptedUser::askedBy(const std::string& icon, const WarningCall& call) {
     checkParent(call.parent);
-    m_vLog.push_back(script::warning(text(call.caption), text(call.text), buttonsOf(call)));
+    note(icon + script::boxText(text(call.caption), text(call.text), buttonsOf(call)));
     return buttonOf(next());
 }
 
+int ScriptedUser::warn(const WarningCall& call) {
+    return askedBy("warning", call);
+}
+
+int ScriptedUser::inform(const WarningCall& call) {
+    return askedBy("information", call);
+}
+
+QColor ScriptedUser::chooseColor(const QColor& initial, QWidget* parent, const std::string& name) {
+    checkParent(parent);
+    note("color from " + text(initial.name()) + " as '" + name + '\'');
+    const std::string chosen = next();
+    return chosen.empty() ? QColor() : QColor(chosen.c_str());
+}
+
 void ScriptedUser::useNativeDialogs(bool use) {
-    m_vLog.push_back(use ? "native dialogs on" : "native dialogs off");
+    note(use ? "native dialogs on" : "native dialogs off");
 }
 
 namespace script {
@@ -99,9 +114,14 @@ std::string save(const std::string& start, const std::string& filter) {
     return dialogLine("save", start, filter, "savedialog", "Specify a filename...");
 }
 
+std::string boxText(const std::string& caption, const std::string& message,
+                    const std::string& buttons) {
+    return " '" + caption + "', '" + message + "' [" + buttons + ']';
+}
+
 std::string warning(const std::string& caption, const std::string& message,
                     const std::string& buttons) {
-    return "warning '" + caption + "', '" + message + "' [" + buttons + ']';
+    return "warning" + boxText(caption, message, buttons);
 }
 
 } // namespace script

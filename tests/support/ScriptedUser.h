@@ -1,5 +1,5 @@
-#ifndef RUQGUI_TESTS_FILES_SCRIPTEDUSER_H
-#define RUQGUI_TESTS_FILES_SCRIPTEDUSER_H
+#ifndef RUQGUI_TESTS_SUPPORT_SCRIPTEDUSER_H
+#define RUQGUI_TESTS_SUPPORT_SCRIPTEDUSER_H
 
 #include "ToolkitStandIn.h"
 
@@ -21,8 +21,8 @@ class ScriptedUser : public ToolkitStandIn {
 public:
     using Lines = std::vector<std::string>;
 
-    /// \a text is a path ("" cancels; several are separated by line breaks) or the label of a
-    /// button; \a before runs before it is given.
+    /// \a text is a path ("" cancels; several are separated by line breaks), the label of a button, or
+    /// a colour such as "#ff0000"; \a before runs before it is given.
     void answer(const std::string& text, const std::function<void()>& before = nullptr);
 
     /// The parent that every dialog and box must have; a line tells of another one.
@@ -36,11 +36,20 @@ public:
 
     QStringList run(const FileDialogCall& call) override;
     int warn(const WarningCall& call) override;
+    int inform(const WarningCall& call) override;
+    QColor chooseColor(const QColor& initial, QWidget* parent, const std::string& name) override;
     void useNativeDialogs(bool use) override;
+
+protected:
+    /// Takes a line of the log.
+    virtual void note(const std::string& line) { m_vLog.push_back(line); }
+
+    void forgetAnswers() { m_vAnswers.clear(); }
 
 private:
     std::string next();
     void checkParent(const QWidget* parent);
+    int askedBy(const std::string& icon, const WarningCall& call);
 
     struct Answer {
         std::string text;
@@ -58,6 +67,8 @@ namespace script {
 std::string openOne(const std::string& start, const std::string& filter);
 std::string openSeveral(const std::string& start, const std::string& filter);
 std::string save(const std::string& start, const std::string& filter);
+std::string boxText(const std::string& caption, const std::string& text,
+                    const std::string& buttons);
 std::string warning(const std::string& caption, const std::string& text,
                     const std::string& buttons);
 

@@ -1,6 +1,7 @@
 #include "ToolkitStandIn.h"
 
 #include <dlfcn.h>
+#include <qt3/ColorDialog.h>
 #include <qt3/File.h>
 #include <qt3/FileDialog.h>
 #include <qt3/MessageBox.h>
@@ -26,6 +27,18 @@ const char* const c_isWritable = "_ZN3qt310isWritableERK7QString";
 const char* const c_canCreate = "_ZN3qt39canCreateERK7QString";
 const char* const c_isInExistingDir = "_ZN3qt315isInExistingDirERK7QString";
 
+int realInformation(QWidget* parent, const QString& caption, const QString& text, int button0,
+                    int button1, int button2) {
+    return real<int, QWidget*, const QString&, const QString&, int, int, int>(
+        "_ZN3qt310MessageBox11informationEP7QWidgetRK7QStringS5_iii", parent, caption, text,
+        button0, button1, button2);
+}
+
+QColor realColor(const QColor& initial, QWidget* parent, const char* name) {
+    return real<QColor, const QColor&, QWidget*, const char*>(
+        "_ZN3qt311ColorDialog8getColorERK6QColorP7QWidgetPKc", initial, parent, name);
+}
+
 QString firstOf(const QStringList& paths) {
     return paths.isEmpty() ? QString() : paths.first();
 }
@@ -38,6 +51,16 @@ ToolkitStandIn::ToolkitStandIn() {
 
 ToolkitStandIn::~ToolkitStandIn() {
     s_standIn = nullptr;
+}
+
+int ToolkitStandIn::inform(const WarningCall& call) {
+    return realInformation(call.parent, call.caption, call.text, call.buttons[0], call.buttons[1],
+                           call.buttons[2]);
+}
+
+QColor ToolkitStandIn::chooseColor(const QColor& initial, QWidget* parent,
+                                   const std::string& name) {
+    return realColor(initial, parent, name.c_str());
 }
 
 bool ToolkitStandIn::exists(const QString& name) {
@@ -119,6 +142,19 @@ int MessageBox::warning(QWidget* parent, const QString& caption, const QString& 
     return real<int, QWidget*, const QString&, const QString&, int, int, int>(
         "_ZN3qt310MessageBox7warningEP7QWidgetRK7QStringS5_iii", parent, caption, text, button0,
         button1, button2);
+}
+
+int MessageBox::information(QWidget* parent, const QString& caption, const QString& text,
+                            int button0, int button1, int button2) {
+    if (s_standIn)
+        return s_standIn->inform({parent, caption, text, {button0, button1, button2}});
+    return realInformation(parent, caption, text, button0, button1, button2);
+}
+
+QColor ColorDialog::getColor(const QColor& initial, QWidget* parent, const char* name) {
+    if (s_standIn)
+        return s_standIn->chooseColor(initial, parent, name);
+    return realColor(initial, parent, name);
 }
 
 bool exists(const QString& name) {

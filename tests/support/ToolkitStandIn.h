@@ -1,6 +1,7 @@
-#ifndef RUQGUI_TESTS_FILES_TOOLKITSTANDIN_H
-#define RUQGUI_TESTS_FILES_TOOLKITSTANDIN_H
+#ifndef RUQGUI_TESTS_SUPPORT_TOOLKITSTANDIN_H
+#define RUQGUI_TESTS_SUPPORT_TOOLKITSTANDIN_H
 
+#include <qcolor.h>
 #include <qstring.h>
 #include <qstringlist.h>
 #include <string>
@@ -17,6 +18,7 @@ struct FileDialogCall {
     QString caption;
 };
 
+/// Of a message box.
 struct WarningCall {
     QWidget* parent;
     QString caption;
@@ -41,6 +43,8 @@ public:
     virtual void useNativeDialogs(bool use) = 0;
 
     /// As the toolkit itself answers, unless overridden.
+    virtual int inform(const WarningCall& call);
+    virtual QColor chooseColor(const QColor& initial, QWidget* parent, const std::string& name);
     virtual bool exists(const QString& name);
     virtual bool isReadable(const QString& name);
     virtual bool isWritable(const QString& name);

@@ -1,6 +1,6 @@
 #include "Subjects.h"
 
-#include "../WidgetSubject.h"
+#include "../CopyingSubject.h"
 
 #include <CDoubleSpinBox.h>
 #include <algorithm>
@@ -47,9 +47,9 @@ public:
 
 const QRect c_place(10, 10, 100, 24);
 
-class DoubleSpinBoxSubject : public WidgetSubject {
+class DoubleSpinBoxSubject : public CopyingSubject<TalkingBox> {
 public:
-    DoubleSpinBoxSubject(Stage& stage, const Taste& taste) : WidgetSubject(stage, taste) {
+    DoubleSpinBoxSubject(Stage& stage, const Taste& taste) : CopyingSubject(stage, taste) {
         const Source real = m_taste.real();
         beginning({Taste::flag(), real, real, real, Taste::flag(30), Taste::flag(30)});
         addWidgetActions();
@@ -67,12 +67,7 @@ public:
 
 protected:
     void make(const Operation& beginning) override;
-    void unmake() override {
-        forgetTargets();
-        m_vBoxes.clear();
-    }
-    QWidget* widget() override { return box(); }
-    void setEnabled(bool enabled) override { box()->setEnabled(enabled); }
+    void setEnabled(bool enabled) override { first()->setEnabled(enabled); }
     std::string state() override;
     std::string brokenPromise() override;
     // An affix that looks like a part of a number is read again and again: a digit more each time.
@@ -84,77 +79,45 @@ protected:
 private:
     void addValueActions();
     void addTextActions();
-    void addCopyActions();
-    void adopt(TalkingBox* newBox, const std::string& label);
-    TalkingBox* box() const {
-        return m_vBoxes.empty() ? nullptr : static_cast<TalkingBox*>(m_vBoxes.front());
-    }
     qt3::SpinWidget* spinWidget() const {
-        return box() ? support::child<qt3::SpinWidget>(box(), "SpinWidget") : nullptr;
+        return first() ? support::child<qt3::SpinWidget>(first(), "SpinWidget") : nullptr;
     }
-    /// An action of the one box, or of the copy that its last argument names.
-    void onBox(const std::string& name, int weight, std::vector<Source> arguments,
-               const std::function<void(TalkingBox&, const Operation&)>& perform);
     static std::string stateOf(const TalkingBox& box);
-
-    std::vector<qt3::Pointer<TalkingBox>> m_vBoxes; ///< The first one has the children.
 };
 
 void DoubleSpinBoxSubject::make(const Operation& beginning) {
-    auto* const first = beginning.flag(0)
-                            ? new TalkingBox(beginning.real(1), beginning.real(2),
-                                             beginning.real(3), m_stage.place(), "box")
-                            : new TalkingBox(m_stage.place(), "box");
-    first->setGeometry(c_place);
-    adopt(first, "box");
-    auto* const spinWidget = support::child<qt3::SpinWidget>(first, "SpinWidget");
-    target(spinWidget, "spin");
-    target(first, "box");
+    auto* const box = beginning.flag(0) ? new TalkingBox(beginning.real(1), beginning.real(2),
+                                                         beginning.real(3), m_stage.place(), "box")
+                                        : new TalkingBox(m_stage.place(), "box");
+    box->setGeometry(c_place);
+    adopt(box, "box");
+    target(spinWidget(), "spin");
+    target(box, "box");
     if (beginning.flag(4))
-        first->setSuffix(" mm");
+        box->setSuffix(" mm");
     if (beginning.flag(5))
-        first->setSpecialValueText("auto");
-    first->show();
+        box->setSpecialValueText("auto");
+    box->show();
     m_stage.recorder().take();
     m_stage.addNeighbourBehind();
-}
-
-void DoubleSpinBoxSubject::adopt(TalkingBox* newBox, const std::string& label) {
-    m_vBoxes.emplace_back(newBox);
-    newBox->m_tell = [this, label](const std::string& line) { tell(label + ' ' + line); };
-    m_stage.recorder().tapAll(newBox, label);
-}
-
-void DoubleSpinBoxSubject::onBox(
-    const std::string& name, int weight, std::vector<Source> arguments,
-    const std::function<void(TalkingBox&, const Operation&)>& perform) {
-    const std::size_t which = arguments.size();
-    arguments.push_back(Taste::among({0, 0, 0, 0, 0, 0, 0, 1, 2}));
-    action(name, weight, arguments, [this, which, perform](const Operation& operation) {
-        if (m_vBoxes.empty())
-            return;
-        const std::size_t index = static_cast<unsigned>(operation.integer(which)) % m_vBoxes.size();
-        if (TalkingBox* const chosen = m_vBoxes[index])
-            perform(*chosen, operation);
-    });
 }
 
 void DoubleSpinBoxSubject::addValueActions() {
     using Box = TalkingBox;
     const Source real = m_taste.real();
-    onBox("setValue", 6, {real}, [](Box& b, const Operation& o) { b.setValue(o.real(0)); });
-    onBox("setMinValue", 2, {real}, [](Box& b, const Operation& o) { b.setMinValue(o.real(0)); });
-    onBox("setMaxValue", 2, {real}, [](Box& b, const Operation& o) { b.setMaxValue(o.real(0)); });
-    onBox("setRange", 2, {real, real}, [](Box& b, const Operation& o) {
+    onOne("setValue", 6, {real}, [](Box& b, const Operation& o) { b.setValue(o.real(0)); });
+    onOne("setMinValue", 2, {real}, [](Box& b, const Operation& o) { b.setMinValue(o.real(0)); });
+    onOne("setMaxValue", 2, {real}, [](Box& b, const Operation& o) { b.setMaxValue(o.real(0)); });
+    onOne("setRange", 2, {real, real}, [](Box& b, const Operation& o) {
         b.setRange(std::min(o.real(0), o.real(1)), std::max(o.real(0), o.real(1)));
     });
-    onBox("setLineStep", 2, {real}, [](Box& b, const Operation& o) { b.setLineStep(o.real(0)); });
-    onBox("setWrapping", 2, {Taste::flag()},
+    onOne("setLineStep", 2, {real}, [](Box& b, const Operation& o) { b.setLineStep(o.real(0)); });
+    onOne("setWrapping", 2, {Taste::flag()},
           [](Box& b, const Operation& o) { b.setWrapping(o.flag(0)); });
-    onBox("stepUp", 4, {}, [](Box& b, const Operation&) { b.stepUp(); });
-    onBox("stepDown", 4, {}, [](Box& b, const Operation&) { b.stepDown(); });
-    onBox("addPage", 1, {}, [](Box& b, const Operation&) { b.addPage(); });
-    onBox("value", 2, {}, [this](Box& b, const Operation&) { tell("value " + shown(b.value())); });
+    onOne("stepUp", 4, {}, [](Box& b, const Operation&) { b.stepUp(); });
+    onOne("stepDown", 4, {}, [](Box& b, const Operation&) { b.stepDown(); });
+    onOne("addPage", 1, {}, [](Box& b, const Operation&) { b.addPage(); });
+    onOne("value", 2, {}, [this](Box& b, const Operation&) { tell("value " + shown(b.value())); });
     const auto button = [this](bool up, bool release) {
         return [=](const Operation&) {
             auto* const spin = spinWidget();
@@ -179,60 +142,33 @@ void DoubleSpinBoxSubject::addTextActions() {
                              ? m_taste.text()
                              : Taste::amongTexts({"", "", "x ", "x", "-", "1", " a b "});
     const Source any = m_taste.text();
-    onBox("setPrefix", 2, {affix}, [=](Box& b, const Operation& o) { b.setPrefix(text(o)); });
-    onBox("setSuffix", 2, {affix}, [=](Box& b, const Operation& o) { b.setSuffix(text(o)); });
-    onBox("setSpecialValueText", 2, {any},
+    onOne("setPrefix", 2, {affix}, [=](Box& b, const Operation& o) { b.setPrefix(text(o)); });
+    onOne("setSuffix", 2, {affix}, [=](Box& b, const Operation& o) { b.setSuffix(text(o)); });
+    onOne("setSpecialValueText", 2, {any},
           [=](Box& b, const Operation& o) { b.setSpecialValueText(text(o)); });
-    onBox("setText", 4, {any}, [=](Box& b, const Operation& o) {
+    onOne("setText", 4, {any}, [=](Box& b, const Operation& o) {
         if (auto* const editor = support::child<qt3::LineEdit>(&b, "LineEdit_DoubleSpinbox"))
             editor->setText(text(o));
     });
-    onBox("interpretText", 1, {}, [](Box& b, const Operation&) { b.interpretText(); });
-    onBox("selectAll", 1, {}, [](Box& b, const Operation&) { b.selectAll(); });
-    onBox("mapTextToValue", 1, {}, [this](Box& b, const Operation&) {
+    onOne("interpretText", 1, {}, [](Box& b, const Operation&) { b.interpretText(); });
+    onOne("selectAll", 1, {}, [](Box& b, const Operation&) { b.selectAll(); });
+    onOne("mapTextToValue", 1, {}, [this](Box& b, const Operation&) {
         bool ok = false;
         const double number = b.mapTextToValue(&ok);
         tell("the text is " + shown(number) + ", " + shown(ok));
     });
-    onBox("mapValueToText", 1, {m_taste.real()}, [this](Box& b, const Operation& o) {
+    onOne("mapValueToText", 1, {m_taste.real()}, [this](Box& b, const Operation& o) {
         tell("the text of it is " + shown(b.mapValueToText(o.real(0))));
     });
-    onBox("setButtonSymbols", 1, {Taste::flag()}, [](Box& b, const Operation& o) {
+    onOne("setButtonSymbols", 1, {Taste::flag()}, [](Box& b, const Operation& o) {
         b.setButtonSymbols(o.flag(0) ? Box::PlusMinus : Box::UpDownArrows);
     });
-    onBox("validate", 2, {any, Taste::index(0, 8)}, [=](Box& b, const Operation& o) {
+    onOne("validate", 2, {any, Taste::index(0, 8)}, [=](Box& b, const Operation& o) {
         QString candidate = text(o);
         int position = o.integer(1);
         if (const QValidator* const validator = b.validator())
             tell("validates " + shown(static_cast<int>(validator->validate(candidate, position))) +
                  ' ' + shown(candidate) + '@' + shown(position));
-    });
-}
-
-void DoubleSpinBoxSubject::addCopyActions() {
-    using Box = TalkingBox;
-    // Only of the original or to it: the others are hidden, and learn of a size when the toolkit likes.
-    action("copy", 1, {}, [this](const Operation&) {
-        if (m_vBoxes.size() > 2 || !box())
-            return;
-        auto* const copy = new Box(*box());
-        adopt(copy, "copy" + std::to_string(m_vBoxes.size()));
-    });
-    onBox("assign", 1, {Taste::flag()}, [this](Box& b, const Operation& o) {
-        if (box() && o.flag(0) && box()->isVisible())
-            *box() = b;
-        else if (box() && !o.flag(0))
-            b = *box();
-    });
-    onBox("destroy", 1, {Taste::flag(20)}, [this](Box& b, const Operation& o) {
-        if (&b != box() || o.flag(0))
-            m_stage.withFocusRescued([&] { delete &b; });
-        const auto isThere = [](const auto& each) { return !each.isNull(); };
-        if (std::none_of(m_vBoxes.begin(), m_vBoxes.end(), isThere)) {
-            unmake();
-            m_stage.place()->show();
-            make(Operation("make"));
-        }
     });
 }
 
@@ -247,11 +183,10 @@ std::string DoubleSpinBoxSubject::stateOf(const TalkingBox& box) {
 
 std::string DoubleSpinBoxSubject::state() {
     std::string state = widgetState();
-    for (const auto& each : m_vBoxes)
-        state += "; " + (each ? stateOf(*each) : std::string("gone"));
-    if (!box())
+    state += statesOfAll(stateOf);
+    if (!first())
         return state;
-    state += "; " + fieldState(support::child<qt3::LineEdit>(box(), "LineEdit_DoubleSpinbox"));
+    state += "; " + fieldState(support::child<qt3::LineEdit>(first(), "LineEdit_DoubleSpinbox"));
     if (const auto* const spin = spinWidget())
         state += "; up " + rectText(spin->upRect()) + (spin->isUpEnabled() ? " on" : " off") +
                  ", down " + rectText(spin->downRect()) + (spin->isDownEnabled() ? " on" : " off");
@@ -259,7 +194,7 @@ std::string DoubleSpinBoxSubject::state() {
 }
 
 std::string DoubleSpinBoxSubject::brokenPromise() {
-    for (const auto& each : m_vBoxes) {
+    for (const auto& each : m_vAll) {
         if (!each)
             continue;
         const TEVU::CRangeControl& range = *each;

@@ -6,6 +6,12 @@ const std::vector<SubjectKind>& subjectKinds() {
     static const std::vector<SubjectKind> kinds = {
         {"CRangeControl", rangeControl},
         {"CDoubleSpinBox", doubleSpinBox},
+        {"CDoubleLineEdit", doubleLineEdit},
+        {"CRangeSlider", rangeSlider},
+        {"CRangeSliderSpinboxed", rangeSliderSpinboxed},
+        {"CSpinboxSlider", spinboxSlider},
+        {"CColorPushButton", colorPushButton},
+        {"CNoNewLinesTextEdit", noNewLinesTextEdit},
     };
     return kinds;
 }

@@ -11,6 +11,12 @@ namespace differential {
 
 std::unique_ptr<Subject> rangeControl(Stage& stage, const Taste& taste);
 std::unique_ptr<Subject> doubleSpinBox(Stage& stage, const Taste& taste);
+std::unique_ptr<Subject> doubleLineEdit(Stage& stage, const Taste& taste);
+std::unique_ptr<Subject> rangeSlider(Stage& stage, const Taste& taste);
+std::unique_ptr<Subject> rangeSliderSpinboxed(Stage& stage, const Taste& taste);
+std::unique_ptr<Subject> spinboxSlider(Stage& stage, const Taste& taste);
+std::unique_ptr<Subject> colorPushButton(Stage& stage, const Taste& taste);
+std::unique_ptr<Subject> noNewLinesTextEdit(Stage& stage, const Taste& taste);
 
 struct SubjectKind {
     std::string className;

@@ -32,6 +32,23 @@ void setButtonText(QWidget* widget, QPalette::ColorGroup state, const QColor& co
     widget->setPalette(palette);
 }
 
+int cursorOf(const qt3::TextEdit* edit) {
+    int paragraph = 0;
+    int position = 0;
+    edit->getCursorPosition(&paragraph, &position);
+    while (--paragraph >= 0)
+        position += edit->paragraphLength(paragraph) + 1;
+    return position;
+}
+
+std::string selectionOf(const qt3::TextEdit* edit) {
+    return text(edit->selectedText());
+}
+
+void keepLinesWhole(qt3::TextEdit* edit) {
+    edit->setWordWrap(QTextEdit::NoWrap);
+}
+
 unsigned int dialogFlag() {
     return Qt::WType_Dialog;
 }

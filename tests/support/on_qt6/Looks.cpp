@@ -2,6 +2,8 @@
 
 #include "Events.h"
 
+#include <qtextcursor.h>
+
 namespace support {
 
 qt3::SizeType horizontalPolicy(const QWidget* widget) {
@@ -30,6 +32,21 @@ void setButtonText(QWidget* widget, QPalette::ColorGroup state, const QColor& co
     QPalette palette = widget->palette();
     palette.setColor(state, QPalette::ButtonText, color);
     widget->setPalette(palette);
+}
+
+int cursorOf(const qt3::TextEdit* edit) {
+    return edit->textCursor().position();
+}
+
+std::string selectionOf(const qt3::TextEdit* edit) {
+    QString selected = edit->textCursor().selectedText();
+    for (const QChar::SpecialCharacter end : {QChar::ParagraphSeparator, QChar::LineSeparator})
+        selected.replace(end, QChar('\n'));
+    return text(selected);
+}
+
+void keepLinesWhole(qt3::TextEdit* edit) {
+    edit->setLineWrapMode(QTextEdit::NoWrap);
 }
 
 unsigned int dialogFlag() {
