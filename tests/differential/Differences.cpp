@@ -7,7 +7,8 @@ const std::vector<Difference>& differences() {
         {"Sizes that follow the style: hints, and the buttons of small spin boxes",
          "looks are the host's",
          "subjects have sizes for which both styles agree; hints are not logged"},
-        {"Where a click lands in a text", "fonts are the host's", "no mouse in text fields"},
+        {"Where a click, Up and Down go in a text", "fonts are the host's",
+         "no mouse in text fields"},
         {"Which hidden or disabled widgets can be given the focus, and where it goes when its "
          "widget is hidden, disabled or destroyed",
          "each toolkit has its own search for another one",
@@ -18,7 +19,7 @@ const std::vector<Difference>& differences() {
          "the delivery of events is the toolkit's", "hidden widgets are not hidden"},
         {"An override of setEnabled() that is called through a plain pointer without an effect",
          "Qt 6 has no virtual setEnabled()", "it is called through the class"},
-        {"Keys of editing: Shift with Delete and Insert, Control with letters",
+        {"Keys of editing: Insert, Shift with Delete, Control with letters",
          "they are the platform's", "not typed, but for pasting"},
         {"The signal of an empty text set into an empty field",
          "Qt 3.3 tells null from empty; nothing listens for it", "not done"},

@@ -14,6 +14,12 @@ Operation randomOperation(const std::string& name, const std::vector<Source>& so
     return Operation(name, arguments);
 }
 
+std::string onOneLine(std::string text) {
+    for (std::size_t end = 0; (end = text.find('\n', end)) != std::string::npos;)
+        text.replace(end, 1, "\\n");
+    return text;
+}
+
 } // namespace
 
 Subject::Subject(Stage& stage, const Taste& taste) : m_stage(stage), m_taste(taste) {}
@@ -76,8 +82,8 @@ void Subject::perform(const Operation& operation, support::Lines& log) {
     Stage::settle();
     const support::Lines said = m_stage.recorder().take();
     for (const std::string& line : said)
-        log.push_back("  " + line);
-    log.push_back("= " + state());
+        log.push_back("  " + onOneLine(line));
+    log.push_back("= " + onOneLine(state()));
     const std::string broken = brokenPromise();
     if (!broken.empty())
         log.push_back(c_broken + broken);

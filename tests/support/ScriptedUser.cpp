@@ -69,7 +69,7 @@ QStringList ScriptedUser::run(const FileDialogCall& call) {
                     text(call.caption)));
     m_vStarts.push_back(text(call.start));
     QStringList paths;
-    std::istringstream answer(next());
+    std::istringstream answer(nextChoice());
     for (std::string path; std::getline(answer, path);)
         paths.append(QString::fromUtf8(path.c_str()));
     return paths;
@@ -78,7 +78,7 @@ QStringList ScriptedUser::run(const FileDialogCall& call) {
 int ScriptedUser::askedBy(const std::string& icon, const WarningCall& call) {
     checkParent(call.parent);
     note(icon + script::boxText(text(call.caption), text(call.text), buttonsOf(call)));
-    return buttonOf(next());
+    return buttonOf(nextButton());
 }
 
 int ScriptedUser::warn(const WarningCall& call) {
@@ -92,7 +92,7 @@ int ScriptedUser::inform(const WarningCall& call) {
 QColor ScriptedUser::chooseColor(const QColor& initial, QWidget* parent, const std::string& name) {
     checkParent(parent);
     note("color from " + text(initial.name()) + " as '" + name + '\'');
-    const std::string chosen = next();
+    const std::string chosen = nextChoice();
     return chosen.empty() ? QColor() : QColor(chosen.c_str());
 }
 

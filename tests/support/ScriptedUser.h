@@ -44,6 +44,10 @@ protected:
     /// Takes a line of the log.
     virtual void note(const std::string& line) { m_vLog.push_back(line); }
 
+    /// The next answer to a file dialog or a colour dialog, and to a box.
+    virtual std::string nextChoice() { return next(); }
+    virtual std::string nextButton() { return next(); }
+
     void forgetAnswers() { m_vAnswers.clear(); }
 
 private:

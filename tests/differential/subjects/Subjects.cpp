@@ -10,6 +10,11 @@ const std::vector<SubjectKind>& subjectKinds() {
         {"CRangeSlider", rangeSlider},
         {"CRangeSliderSpinboxed", rangeSliderSpinboxed},
         {"CSpinboxSlider", spinboxSlider},
+        {"CFileDialog", fileDialog},
+        {"CFileLineWidget", fileLineWidget},
+        {"CHeaderFieldsWidget", headerFields},
+        {"CValueMapFileVersionHandling", fileVersion},
+        {"CAutoDialogPluginWrapper", autoDialog},
         {"CColorPushButton", colorPushButton},
         {"CNoNewLinesTextEdit", noNewLinesTextEdit},
     };

@@ -17,6 +17,11 @@ std::unique_ptr<Subject> rangeSliderSpinboxed(Stage& stage, const Taste& taste);
 std::unique_ptr<Subject> spinboxSlider(Stage& stage, const Taste& taste);
 std::unique_ptr<Subject> colorPushButton(Stage& stage, const Taste& taste);
 std::unique_ptr<Subject> noNewLinesTextEdit(Stage& stage, const Taste& taste);
+std::unique_ptr<Subject> fileDialog(Stage& stage, const Taste& taste);
+std::unique_ptr<Subject> fileLineWidget(Stage& stage, const Taste& taste);
+std::unique_ptr<Subject> headerFields(Stage& stage, const Taste& taste);
+std::unique_ptr<Subject> fileVersion(Stage& stage, const Taste& taste);
+std::unique_ptr<Subject> autoDialog(Stage& stage, const Taste& taste);
 
 struct SubjectKind {
     std::string className;
