@@ -97,7 +97,7 @@ TEST(OutOfMemory, ArgumentOfAText) {
 
 TEST(OutOfMemory, MissingExtension) {
     const std::string filter = "Images (*." + c_long + " *.tif)";
-    EXPECT_GT(failEachOfText([&] { return missingExtension(c_long, filter); }, "." + c_long), 2);
+    EXPECT_GT(failEachOfText([&] { return missingExtension(c_long, filter); }, "." + c_long), 0);
 }
 
 TEST(OutOfMemory, IdentifierAndVersion) {
