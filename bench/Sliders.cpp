@@ -105,6 +105,29 @@ QPoint lowerHandle(const CRangeSlider& slider) {
     return QPoint(begin - handle / 2, handle / 2);
 }
 
+const int c_nGreatest = 2147483646; // that is the greatest bound with a count of values in int
+
+/// Tenths of the bound, which lie on the same pixels whatever it is.
+Operation settingTenths(int max) {
+    const auto own = std::make_shared<OwnSlider>(max);
+    const int tenth = max / 10;
+    own->m_nCount = 1; // the first range is in force already
+    const Operation set = [own, tenth] {
+        const int i = ++own->m_nCount;
+        own->m_slider.SetRange(i * 7 % 5 * tenth, (5 + i * 3 % 5) * tenth);
+        paintWhatIsDue();
+    };
+    requirePainting(set, &own->m_slider);
+    return set;
+}
+
+Operation draggingWithin(int max) {
+    const auto own = std::make_shared<OwnSlider>(max);
+    const Operation move = moves(own, lowerHandle(own->m_slider));
+    requirePainting(move, &own->m_slider);
+    return move;
+}
+
 std::unique_ptr<CRangeSlider> newOwn(QWidget* parent) {
     return std::make_unique<CRangeSlider>(Qt::Horizontal, 20, 80, 0, c_nMax, parent, "slider");
 }
@@ -168,6 +191,16 @@ void addSliders() {
     compareTimeInStyles({"CRangeSlider, move of its bar : QSlider, move of a drag", 0.75, 100,
                          [bar] { return dragging(bar); }},
                         0.42);
+    compareTimeInStyles({"CRangeSlider.SetRange, in [0, 2^31-2] : in [0, 10]", 1.1, 100,
+                         [] {
+                             return StSides{settingTenths(c_nGreatest), settingTenths(10)};
+                         }},
+                        1.1);
+    compareTimeInStyles({"CRangeSlider, move of a drag, in [0, 2^31-2] : in [0, 100]", 1.1, 100,
+                         [] {
+                             return StSides{draggingWithin(c_nGreatest), draggingWithin(c_nMax)};
+                         }},
+                        1.1);
     compareTimeInStyles({"CRangeSlider, make and destroy : QSlider", 1.2, 100, makingAndDestroying},
                         1.2);
     compareHeap({"CRangeSlider, heap beside its picture : QSlider", 1.15, 100, keeping});

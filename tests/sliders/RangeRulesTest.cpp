@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <ostream>
+#include <random>
 #include <sstream>
 #include <string>
 
@@ -148,6 +149,41 @@ TEST(RangeRulesTest, PixelsOfExtremeBoundsDoNotOverflow) {
     EXPECT_EQ(pixelOf(c_most, {0, 1}, c_axis), c_most);
     EXPECT_EQ(pixelOf(0, {c_most, c_least}, c_axis),
               16 + 49); // reversed: 100 * (2^31-1) / (2^32-1)
+}
+
+TEST(RangeRulesTest, PixelsStayExactWhereTheProductLeaves32Bits) {
+    std::mt19937 random(31);
+    int checks = 0;
+    for (const StInterval& bound : {StInterval{0, c_most - 1}, StInterval{c_least, c_most},
+                                    StInterval{-5, c_most - 5}, StInterval{c_least, 0}}) {
+        const long long span = static_cast<long long>(bound.nUpper) - bound.nLower;
+        std::uniform_int_distribution<int> any(bound.nLower, bound.nUpper);
+        for (int length = 33; length <= 400; ++length) {
+            const long long room = length - 32;
+            for (int i = 0; i < 100; ++i) {
+                const int value = i == 0 ? bound.nLower : i == 1 ? bound.nUpper : any(random);
+                const long long product =
+                    (static_cast<long long>(value) - bound.nLower) * room; // 41 bits at most
+                const long long pixel = pixelOf(value, bound, {length, 16}) - 16;
+                ASSERT_LE(pixel * span, product) << value << " on " << length;
+                ASSERT_GT((pixel + 1) * span, product) << value << " on " << length;
+                ++checks;
+            }
+        }
+    }
+    EXPECT_EQ(checks, 4 * 368 * 100);
+}
+
+TEST(RangeRulesTest, ValuesOfTheGreatestBoundAreThoseOfSinglePrecision) {
+    const StInterval bound = {0, c_most - 1};
+    CComparison comparison;
+    for (int length = 33; length <= 400; ++length) {
+        const StAxis axis = {length, 16};
+        for (int pixel = 15; pixel < length - 17; ++pixel) // further ones lead beyond int: below
+            comparison.check(valueAt(pixel, bound, axis), pointedAt(pixel, bound, axis), pixel,
+                             bound, axis);
+    }
+    comparison.expectAgreement(60000);
 }
 
 TEST(RangeRulesTest, ValuesAreThoseOfSinglePrecisionForAllPixelsBoundsAndLengths) {
