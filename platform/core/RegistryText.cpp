@@ -189,8 +189,10 @@ std::string write(const Settings& settings) {
     for (const auto& [key, scalar] : settings)
         values[json(textOf(key)).dump()] = jsonOf(scalar).dump();
     std::string text;
-    for (const auto& [key, value] : values)
-        text += (text.empty() ? "\n    " : ",\n    ") + key + ": " + value;
+    for (const auto& [key, value] : values) {
+        text += text.empty() ? "\n    " : ",\n    ";
+        text.append(key).append(": ").append(value);
+    }
     return "{" + (text.empty() ? text : text + "\n") + "}\n";
 }
 

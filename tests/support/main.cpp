@@ -11,7 +11,7 @@
 
 namespace {
 
-const unsigned c_patience = 60; // seconds
+const unsigned c_patience = RUQGUI_PATIENCE; // seconds
 
 void tellWhereItHangs(int) {
     const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();

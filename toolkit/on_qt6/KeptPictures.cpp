@@ -105,8 +105,9 @@ Patch::Patch(const QPainter* painter, const QRect& rect) {
     if (rect.width() < c_nLeastSide || rect.height() < c_nLeastSide || !all.contains(rect))
         return;
     m_nPerRow = static_cast<int>(picture->bytesPerLine() / sizeof(QRgb));
-    m_pFirst = reinterpret_cast<QRgb*>(picture->bits()) + rect.x() * density +
-               static_cast<qsizetype>(rect.y()) * density * m_nPerRow;
+    const QPoint first = rect.topLeft() * density;
+    m_pFirst =
+        reinterpret_cast<QRgb*>(picture->bits()) + first.x() + qsizetype(first.y()) * m_nPerRow;
     m_hSize = rect.size() * density;
     m_nDensity = density;
     m_bWholePicture = m_hSize == picture->size() && m_nPerRow == m_hSize.width();
@@ -114,7 +115,7 @@ Patch::Patch(const QPainter* painter, const QRect& rect) {
 
 QImage Patch::copy() const {
     return QImage(reinterpret_cast<const uchar*>(m_pFirst), m_hSize.width(), m_hSize.height(),
-                  4 * m_nPerRow, QImage::Format_RGB32)
+                  qsizetype(sizeof(QRgb)) * m_nPerRow, QImage::Format_RGB32)
         .copy();
 }
 
