@@ -52,6 +52,11 @@ TEST_F(FieldsTest, WholeNumberIsTyped) {
               "{a: 42}");
 }
 
+TEST_F(FieldsTest, WholeNumberWithAUnitIsTyped) {
+    describe(entry("integer", "a", "", {{"min", whole(1)}, {"unit", text("px")}}));
+    EXPECT_EQ(okAfter([](QWidget* dialog) { typeOver(field(dialog, "a"), "42"); }), "{a: 42}");
+}
+
 TEST_F(FieldsTest, WholeNumberHasItsLimitsStepAndUnit) {
     describe(
         entry("integer", "a", "",

@@ -82,6 +82,41 @@ TEST(SpinBoxTest, NumberBelowTheMinimumIsClampedWhenItIsCommitted) {
     EXPECT_EQ(shown.recorder.take(), (Lines{"box.valueChanged(7)"}));
 }
 
+TEST(SpinBoxTest, NumbersAreTypedBetweenPrefixAndSuffix) {
+    StFocusedBox shown;
+    shown.box.setPrefix("about ");
+    shown.box.setSuffix(" px");
+
+    shown.type("17\n");
+    EXPECT_EQ(shown.text(), "about 17 px");
+    shown.type("8");
+    EXPECT_EQ(shown.box.value(), 8);
+
+    EXPECT_EQ(shown.text(), "about 8 px");
+    EXPECT_EQ(shown.recorder.take(), (Lines{"box.valueChanged(17)", "box.valueChanged(8)"}));
+}
+
+TEST(SpinBoxTest, NumberBelowTheMinimumIsClampedBeforeASuffixToo) {
+    StFocusedBox shown;
+    shown.box.setMinValue(7);
+    shown.box.setSuffix(" px");
+
+    shown.type("1\n");
+
+    EXPECT_EQ(shown.box.value(), 7);
+    EXPECT_EQ(shown.text(), "7 px");
+}
+
+TEST(SpinBoxTest, LettersAndNumbersOutOfTheRangeAreRefusedBeforeASuffixToo) {
+    StFocusedBox shown;
+    shown.box.setSuffix(" px");
+
+    shown.type("1x01");
+
+    EXPECT_EQ(shown.box.value(), 10);
+    EXPECT_EQ(shown.text(), "10 px");
+}
+
 TEST(SpinBoxTest, SignAloneGivesWayToTheValueInForce) {
     StFocusedBox shown;
     shown.box.setMinValue(-20);

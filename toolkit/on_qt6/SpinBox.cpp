@@ -9,6 +9,22 @@
 
 namespace qt3 {
 
+namespace {
+
+/// What stands between prefix and suffix, which the toolkit adds where they are missing.
+QString numberIn(const QSpinBox& box, const QString& text) {
+    const QString prefix = box.prefix();
+    const QString suffix = box.suffix();
+    QString number = text;
+    if (number.startsWith(prefix))
+        number.remove(0, prefix.size());
+    if (number.endsWith(suffix))
+        number.chop(suffix.size());
+    return number.trimmed();
+}
+
+} // namespace
+
 SpinBox::SpinBox(QWidget* parent, const char* name) : Bridged<QSpinBox>(name, parent) {
     setKeyboardTracking(false);
     setLineEdit(new LineEdit(this, "qt_spinbox_lineedit")); // for what it does to refused keys
@@ -41,11 +57,11 @@ void SpinBox::stepBy(int steps) {
 }
 
 QValidator::State SpinBox::validate(QString& input, int&) const {
-    const QString stripped = input.trimmed();
-    if (stripped.isEmpty() || (minimum() < 0 && stripped == QLatin1String("-")))
+    const QString text = numberIn(*this, input);
+    if (text.isEmpty() || (minimum() < 0 && text == QLatin1String("-")))
         return QValidator::Intermediate;
     bool bNumber = false;
-    const int number = input.toInt(&bNumber);
+    const int number = text.toInt(&bNumber);
     if (!bNumber || (number < 0 && minimum() >= 0))
         return QValidator::Invalid;
     if (number >= minimum() && number <= maximum())
@@ -58,7 +74,7 @@ QValidator::State SpinBox::validate(QString& input, int&) const {
 // minimum of 7. The toolkit itself would go back to the value before.
 void SpinBox::fixup(QString& input) const {
     bool bNumber = false;
-    const int number = input.toInt(&bNumber);
+    const int number = numberIn(*this, input).toInt(&bNumber);
     if (bNumber)
         input = textFromValue(qBound(minimum(), number, maximum()));
 }

@@ -35,7 +35,7 @@ public:
     void stepBy(int steps) override;
 
     /// Acceptable is a number of the range; Intermediate one that further digits may bring into it, and
-    /// what may become a number; Invalid all else. Blanks around a number do not count.
+    /// what may become a number; Invalid all else. Prefix, suffix and blanks around a number do not count.
     QValidator::State validate(QString& input, int& position) const override;
 
     /// A number outside the range is clamped when it is committed; what is no number gives way to the
