@@ -27,6 +27,20 @@ qreal densityOf(const QWidget* widget) {
                                             : qGuiApp->devicePixelRatio();
 }
 
+bool isPlainLine(const QPen& pen) {
+    return pen.style() == Qt::SolidLine && pen.widthF() <= 1;
+}
+
+// By filled areas: where a pixel of the widget is several of the screen's, a line of the pen lies
+// beside some of them, and what was painted before shows there.
+void fillWithOutline(QPainter* painter, const QRect& rect) {
+    const QRect inside = rect.adjusted(1, 1, -1, -1);
+    if (inside.isValid())
+        painter->fillRect(inside, painter->brush());
+    for (const QRect& part : QRegion(rect) - QRegion(inside))
+        painter->fillRect(part, painter->pen().brush());
+}
+
 } // namespace
 
 Painter::Painter() = default;
@@ -57,7 +71,11 @@ void Painter::drawRect(int x, int y, int width, int height) {
         fillRect(x, y, width, height, brush().color()); // the same, by a shorter way
     else if (bFillsOnly)
         QPainter::drawRect(x, y, width, height);
-    else if (width > 0 && height > 0 && (width > 1 || height > 1))
+    else if (width < 1 || height < 1 || (width == 1 && height == 1))
+        return;
+    else if (isPlainLine(pen()))
+        fillWithOutline(this, QRect(x, y, width, height));
+    else
         QPainter::drawRect(x, y, width - 1, height - 1); // Qt 6 adds the pen's width
 }
 
