@@ -178,7 +178,9 @@ const CImage* CAvailableImages::imageIn(const CValue* element, std::string& name
     if (!checkWhiteList(image))
         return nullptr;
     name = label->String();
-    const auto* const index = exactly<CValueLong>(record->Entry(c_index, false));
+    const bool bHasMore = record->Size() > 2; // than the two above; most have not, and need no look
+    const auto* const index =
+        bHasMore ? exactly<CValueLong>(record->Entry(c_index, false)) : nullptr;
     if (index && index->Long() != 1)
         name += ' ' + std::to_string(index->Long());
     return image;
