@@ -3,6 +3,7 @@
 #include "FormView.h"
 
 #include <algorithm>
+#include <qevent.h>
 #include <qt3/GroupBox.h>
 #include <qt3/Label.h>
 #include <qt3/PushButton.h>
@@ -115,11 +116,27 @@ void CParameterDialog::alignLabels() {
         label->setMinimumWidth(width);
 }
 
-// Only now are all widgets polished, and know their sizes.
+// Only now are all widgets polished, and know their sizes; the toolkit finds a place for what it finds
+// here. When the window comes back from being an icon, it has the size that the user gave it.
 void CParameterDialog::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) {
+        layout()->invalidate();
+        resize(layout()->sizeHint());
+    }
     qt3::Dialog::showEvent(event);
-    layout()->invalidate();
-    resize(layout()->sizeHint());
+    if (!event->spontaneous())
+        stayOnScreen();
+}
+
+// On Qt 3.3 the place was found before, for another size.
+void CParameterDialog::stayOnScreen() {
+    const QRect screen = qt3::availableGeometry(this);
+    const QRect window = frameGeometry();
+    const int left = std::min(window.left(), screen.right() + 1 - window.width());
+    const int top = std::min(window.top(), screen.bottom() + 1 - window.height());
+    const QPoint place(std::max(left, screen.left()), std::max(top, screen.top()));
+    if (place != window.topLeft())
+        move(place);
 }
 
 bool CParameterDialog::shows(std::size_t parameter) const {

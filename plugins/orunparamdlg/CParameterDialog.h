@@ -46,6 +46,7 @@ private:
     bool shows(const StGroup& group) const;
     bool shows(std::size_t parameter) const;
     void alignLabels();
+    void stayOnScreen();
     CField* firstUnacceptable();
 
     const StDialog& m_dialog;

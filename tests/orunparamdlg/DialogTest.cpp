@@ -6,6 +6,7 @@
 #include <qapplication.h>
 #include <qcheckbox.h>
 #include <qlabel.h>
+#include <qlayout.h>
 #include <qlineedit.h>
 #include <qpushbutton.h>
 #include <qt3/Application.h>
@@ -315,6 +316,21 @@ TEST_F(DialogTest, FormThatFitsShowsInFull) {
         EXPECT_EQ(form->size(), view->viewport()->size());
         EXPECT_EQ(view->viewport()->size(), view->size());
     });
+}
+
+TEST_F(DialogTest, LiesOnTheScreenWhereverItsParentIs) {
+    qt3::Widget window;
+    const QRect screen = qt3::availableGeometry(&window);
+    window.setGeometry(screen.right() - 100, screen.bottom() - 100, 200, 200);
+    support::show(&window);
+    qt3::setMainWidget(&window);
+    describe({group("", {entry("text", "a", "A long label:"), entry("color", "b", "")}),
+              group("", {entry("text", "c", ""), entry("text", "d", ""), entry("text", "e", "")})});
+    okAfter([&](QWidget* dialog) {
+        EXPECT_TRUE(screen.contains(dialog->frameGeometry()));
+        EXPECT_EQ(dialog->size(), dialog->layout()->sizeHint());
+    });
+    qt3::setMainWidget(nullptr);
 }
 
 // What the example shows

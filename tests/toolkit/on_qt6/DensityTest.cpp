@@ -49,22 +49,20 @@ TEST_P(DensityTest, EveryPixelIsOneOfSeveralOnADenseScreen) {
 
 INSTANTIATE_TEST_SUITE_P(
     All, DensityTest,
-    testing::Values(StDrawing{"Rectangle", [](auto* painter) { painter->drawRect(1, 2, 5, 4); }},
-                    StDrawing{"WholeArea",
-                              [](auto* painter) { painter->drawRect(0, 0, c_nSize, c_nSize); }},
-                    StDrawing{"WithoutAnInside",
-                              [](auto* painter) { painter->drawRect(1, 2, 2, 2); }},
-                    StDrawing{"RowOfPixels", [](auto* painter) { painter->drawRect(1, 2, 5, 1); }},
-                    StDrawing{"ColumnOfPixels",
-                              [](auto* painter) { painter->drawRect(1, 2, 1, 5); }},
-                    StDrawing{"WithoutABrush",
-                              [](auto* painter) {
-                                  painter->setBrush(Qt::NoBrush);
-                                  painter->drawRect(1, 2, 5, 4);
-                              }},
-                    StDrawing{"WithoutAPen",
-                              [](auto* painter) {
-                                  painter->setPen(Qt::NoPen);
-                                  painter->drawRect(1, 2, 5, 4);
-                              }}),
+    testing::Values(
+        StDrawing{"Rectangle", [](auto* painter) { painter->drawRect(1, 2, 5, 4); }},
+        StDrawing{"WholeArea", [](auto* painter) { painter->drawRect(0, 0, c_nSize, c_nSize); }},
+        StDrawing{"WithoutAnInside", [](auto* painter) { painter->drawRect(1, 2, 2, 2); }},
+        StDrawing{"RowOfPixels", [](auto* painter) { painter->drawRect(1, 2, 5, 1); }},
+        StDrawing{"ColumnOfPixels", [](auto* painter) { painter->drawRect(1, 2, 1, 5); }},
+        StDrawing{"WithoutABrush",
+                  [](auto* painter) {
+                      painter->setBrush(Qt::NoBrush);
+                      painter->drawRect(1, 2, 5, 4);
+                  }},
+        StDrawing{"WithoutAPen",
+                  [](auto* painter) {
+                      painter->setPen(Qt::NoPen);
+                      painter->drawRect(1, 2, 5, 4);
+                  }}),
     [](const auto& row) { return std::string(row.param.sName); });
