@@ -128,6 +128,16 @@ TEST(TextEditPasteTest, EmptyClipboardReachesTheOverride) {
     EXPECT_EQ(ascii(pasting.edit.text()), "");
 }
 
+TEST(TextEditPasteTest, MiddleButtonReachesTheOverrideAlsoWithoutASelection) {
+    if (!QApplication::clipboard()->supportsSelection())
+        GTEST_SKIP() << "this display has no selection";
+    StPasting pasting("clipboard");
+    QApplication::clipboard()->clear(QClipboard::Selection);
+    support::mouseClick(pasting.edit.viewport(), QPoint(5, 5), support::Button::Middle);
+    EXPECT_EQ(pasting.edit.m_vCalls, (Lines{"paste"}));
+    EXPECT_EQ(ascii(pasting.edit.text()), "");
+}
+
 TEST(TextEditPasteTest, CarriageReturnsBecomeLineBreaks) {
     StPasting pasting("a\r\nb\rc\nd");
     pasting.edit.paste();

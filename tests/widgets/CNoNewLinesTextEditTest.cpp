@@ -141,6 +141,15 @@ TEST_F(NoNewLines, MiddleButtonIsAPasteOfTheSelection) {
     EXPECT_EQ(text(), "xyz");
 }
 
+TEST_F(NoNewLines, MiddleButtonCleansTheTextAlsoWithoutASelection) {
+    if (!QApplication::clipboard()->supportsSelection())
+        GTEST_SKIP() << "this display has no selection";
+    set("a\nb");
+    QApplication::clipboard()->clear(QClipboard::Selection);
+    support::mouseClick(m_edit.viewport(), QPoint(5, 5), support::Button::Middle);
+    EXPECT_EQ(text(), "ab");
+}
+
 TEST_F(NoNewLines, PasteGoesToTheCursor) {
     set("ab");
     support::keyClick(&m_edit, Qt::Key_Right);

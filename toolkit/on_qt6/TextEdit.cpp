@@ -1,6 +1,7 @@
 #include <qt3/TextEdit.h>
 
 #include <qevent.h>
+#include <qmimedata.h>
 #include <qtextdocument.h>
 
 #include <utility>
@@ -45,13 +46,19 @@ QString TextEdit::text() const {
 
 void TextEdit::paste() {
     const bool bOuter = std::exchange(m_bInserting, true);
-    if (m_pSource)
+    if (hasNothingToPaste()) { // with which Qt 6.4 can crash
+        if (!isReadOnly())
+            textCursor().removeSelectedText(); // nothing replaces the selection too
+    } else if (m_pSource) {
         QTextEdit::insertFromMimeData(m_pSource);
-    else if (canPaste()) // with nothing to paste Qt 6.4 can crash
+    } else {
         QTextEdit::paste();
-    else if (!isReadOnly()) // nothing replaces the selection too
-        textCursor().removeSelectedText();
+    }
     m_bInserting = bOuter;
+}
+
+bool TextEdit::hasNothingToPaste() const {
+    return m_pSource ? m_pSource->formats().isEmpty() : !canPaste();
 }
 
 void TextEdit::keyPressEvent(QKeyEvent* event) {

@@ -33,6 +33,8 @@ protected:
     void insertFromMimeData(const QMimeData* source) override;
 
 private:
+    bool hasNothingToPaste() const;
+
     const QMimeData* m_pSource = nullptr; ///< What the toolkit is about to paste, if it began.
     bool m_bInserting = false;            ///< Mime data goes straight into the text.
 };
