@@ -277,6 +277,13 @@ TEST_F(AvailableImages, IndexOtherThanOneFollowsTheLabelAfterABlank) {
                              {"e " + std::to_string(std::numeric_limits<long>::min()), &m_small}}));
 }
 
+TEST_F(AvailableImages, RecordMayHoldMore) {
+    m_documents.add("a", &m_small).SetEntry("path", string("/scans/a.tif"));
+    m_documents.add("b", &m_small, 2).SetEntry("path", string("/scans/b.tif"));
+    CAvailableImages available(false, false);
+    EXPECT_EQ(available(m_documents.input()), (Images{{"a", &m_small}, {"b 2", &m_small}}));
+}
+
 TEST_F(AvailableImages, IndexOfAnotherTypeAddsNothing) {
     m_documents.add("a", &m_small).SetEntry("index", string("2"));
     m_documents.add("b", &m_small).SetEntry("index", new TEVU::CValueDouble(2));
