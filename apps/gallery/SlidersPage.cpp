@@ -3,7 +3,6 @@
 #include "Form.h"
 #include "SignalLog.h"
 
-#include <CSpinboxSlider.h>
 #include <qt3/PushButton.h>
 #include <qt3/SpinBox.h>
 
@@ -21,6 +20,15 @@ SlidersPage::SlidersPage(QWidget* parent, SignalLog& log)
     auto* right = new qt3::VBoxLayout(row, 8);
     right->addWidget(createVertical(log), 1);
     right->addWidget(createOptions());
+}
+
+/// A number to enter whose change runs \a slot of the page, written with SLOT() and taking an int.
+void SlidersPage::addNumber(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label,
+                            int value, const char* slot, const char* name) {
+    auto* field = new qt3::SpinBox(-1000, 1000, 1, box, name);
+    field->setValue(value);
+    connect(field, SIGNAL(valueChanged(int)), this, slot);
+    addLabelled(box, column, label, field);
 }
 
 QWidget* SlidersPage::createRangeSliders(SignalLog& log) {
@@ -59,12 +67,19 @@ QWidget* SlidersPage::createSpinboxSliders(SignalLog& log) {
     } variants[] = {{false, false, "Straight:", "slider"},
                     {true, false, "Spin box first:", "spinFirst"},
                     {false, true, "Inverted:", "sliderInverted"}};
+    std::size_t i = 0;
     for (const auto& variant : variants) {
         auto* slider = new CSpinboxSlider(0, 100, 10, 30, Qt::Horizontal, variant.m_bSpinFirst,
                                           variant.m_bInverted, box, variant.m_sName);
         log.watch(slider, variant.m_sName);
         addLabelled(box, column, variant.m_sLabel, slider);
+        m_spinboxSliders[i++] = slider;
     }
+    addText(box, column, "Options of these and of the vertical one:");
+    addNumber(box, column, "Minimum:", 0, SLOT(setSliderMin(int)), "sliderMinimum");
+    addNumber(box, column, "Maximum:", 100, SLOT(setSliderMax(int)), "sliderMaximum");
+    addNumber(box, column, "Step:", 10, SLOT(setSliderStep(int)), "sliderStep");
+    addSwitch(box, column, "Sliders enabled", true, this, SLOT(setSlidersEnabled(bool)));
     return box;
 }
 
@@ -80,6 +95,7 @@ QWidget* SlidersPage::createVertical(SignalLog& log) {
     row->addWidget(m_sliders[1]);
     row->addWidget(m_spinboxed[2]);
     row->addWidget(slider);
+    m_spinboxSliders[3] = slider;
     log.watch(m_sliders[1], "verticalRange");
     log.watch(m_spinboxed[2], "verticalSpinboxed");
     log.watch(slider, "verticalSlider");
@@ -89,18 +105,10 @@ QWidget* SlidersPage::createVertical(SignalLog& log) {
 QWidget* SlidersPage::createOptions() {
     auto* box = new qt3::GroupBox("Options of the range sliders", this, "rangeOptions");
     auto* column = columnIn(box);
-    const struct {
-        const char* m_sLabel;
-        int m_nValue;
-        const char* m_sSlot;
-    } numbers[] = {{"Minimum:", 0, SLOT(setMin(int))}, {"Maximum:", 255, SLOT(setMax(int))}};
-    for (const auto& number : numbers) {
-        auto* field = new qt3::SpinBox(-1000, 1000, 1, box);
-        field->setValue(number.m_nValue);
-        connect(field, SIGNAL(valueChanged(int)), this, number.m_sSlot);
-        addLabelled(box, column, number.m_sLabel, field);
-    }
+    addNumber(box, column, "Minimum:", m_nMin, SLOT(setMin(int)), "minimum");
+    addNumber(box, column, "Maximum:", m_nMax, SLOT(setMax(int)), "maximum");
     addSwitch(box, column, "Lower may equal upper", true, this, SLOT(setNullRange(bool)));
+    addSwitch(box, column, "Range sliders enabled", true, this, SLOT(setRangesEnabled(bool)));
     auto* buttons = new qt3::HBoxLayout(column, 6);
     auto* down = new qt3::PushButton("Move by -20", box);
     auto* up = new qt3::PushButton("Move by 20", box);
@@ -146,6 +154,33 @@ void SlidersPage::moveDown() {
 void SlidersPage::moveUp() {
     for (CRangeSlider* slider : m_sliders)
         slider->Move(20);
+}
+
+void SlidersPage::setRangesEnabled(bool enabled) {
+    for (CRangeSlider* slider : m_sliders)
+        slider->setEnabled(enabled);
+    for (CRangeSliderSpinboxed* slider : m_spinboxed)
+        slider->setEnabled(enabled);
+}
+
+void SlidersPage::setSliderMin(int min) {
+    for (CSpinboxSlider* slider : m_spinboxSliders)
+        slider->SlotSetMinValue(min);
+}
+
+void SlidersPage::setSliderMax(int max) {
+    for (CSpinboxSlider* slider : m_spinboxSliders)
+        slider->SlotSetMaxValue(max);
+}
+
+void SlidersPage::setSliderStep(int step) {
+    for (CSpinboxSlider* slider : m_spinboxSliders)
+        slider->SlotSetStep(step);
+}
+
+void SlidersPage::setSlidersEnabled(bool enabled) {
+    for (CSpinboxSlider* slider : m_spinboxSliders)
+        slider->setEnabled(enabled);
 }
 
 QWidget* createSlidersPage(QWidget* parent, SignalLog& log, const Options&) {
