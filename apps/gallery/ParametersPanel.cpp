@@ -24,14 +24,17 @@ std::string textOf(const CValue* value) {
     return text.str();
 }
 
-/// A line for each value, with the keys that lead to it.
+/// A line for each value, with the keys that lead to it, and for what is empty.
 std::string linesOf(const CValueContainerBase& container, const std::string& path) {
     std::string lines;
     for (const CValue_Key& key : container.Keys()) {
         const CValue* const value = container.Entry(key, true);
         const std::string place = path + key.String();
-        if (const auto* const inner = dynamic_cast<const CValueContainerBase*>(value))
+        const auto* const inner = dynamic_cast<const CValueContainerBase*>(value);
+        if (inner && !inner->Keys().empty())
             lines += linesOf(*inner, place + '/');
+        else if (inner)
+            lines += place + ": none\n";
         else
             lines += place + ": " + textOf(value) + '\n';
     }

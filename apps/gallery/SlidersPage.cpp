@@ -79,7 +79,7 @@ QWidget* SlidersPage::createSpinboxSliders(SignalLog& log) {
     addNumber(box, column, "Minimum:", 0, SLOT(setSliderMin(int)), "sliderMinimum");
     addNumber(box, column, "Maximum:", 100, SLOT(setSliderMax(int)), "sliderMaximum");
     addNumber(box, column, "Step:", 10, SLOT(setSliderStep(int)), "sliderStep");
-    addSwitch(box, column, "Sliders enabled", true, this, SLOT(setSlidersEnabled(bool)));
+    addSwitch(box, column, "Enabled", true, this, SLOT(setSlidersEnabled(bool)));
     return box;
 }
 
@@ -108,7 +108,8 @@ QWidget* SlidersPage::createOptions() {
     addNumber(box, column, "Minimum:", m_nMin, SLOT(setMin(int)), "minimum");
     addNumber(box, column, "Maximum:", m_nMax, SLOT(setMax(int)), "maximum");
     addSwitch(box, column, "Lower may equal upper", true, this, SLOT(setNullRange(bool)));
-    addSwitch(box, column, "Range sliders enabled", true, this, SLOT(setRangesEnabled(bool)));
+    addSwitch(box, column, "Enabled (range sliders show it when they change)", true, this,
+              SLOT(setRangesEnabled(bool)));
     auto* buttons = new qt3::HBoxLayout(column, 6);
     auto* down = new qt3::PushButton("Move by -20", box);
     auto* up = new qt3::PushButton("Move by 20", box);

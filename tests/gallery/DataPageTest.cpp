@@ -125,6 +125,7 @@ public:
         auto& parameters = dynamic_cast<CValueMap&>(*setup.Entry("parameters", true));
         parameters.SetEntry("filter", filter);
         parameters.SetEntry("references", list);
+        parameters.SetEntry("results", new TEVU::CValueVector);
         parameters.SetEntry("smallest", new TEVU::CValueLong(8));
         parameters.SetEntry("show", new TEVU::CValueBool(true));
         setup.SetEntry("cancelled", new TEVU::CValueBool(cancels));
@@ -321,7 +322,7 @@ TEST_F(DataPageTest, EditedParametersAreShown) {
     open();
     click("editParameters");
     const std::string edited =
-        "filter/radius: 0.5\nreferences/0: \"a.tif\"\nshow: on\nsmallest: 8\n";
+        "filter/radius: 0.5\nreferences/0: \"a.tif\"\nresults: none\nshow: on\nsmallest: 8\n";
     EXPECT_EQ(label("parametersMessage"), "Edited:");
     EXPECT_EQ(pane("parameters"), edited);
 

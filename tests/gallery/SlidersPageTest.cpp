@@ -89,18 +89,18 @@ TEST_F(SlidersPageTest, NullRangeIsThatOfAllRangeSliders) {
 }
 
 TEST_F(SlidersPageTest, RangeSlidersCanBeDisabled) {
-    click("Range sliders enabled");
+    click("Enabled (range sliders show it when they change)");
     for (const auto* const slider : all<CRangeSlider>())
         EXPECT_FALSE(slider->isEnabled());
     for (const auto* const slider : all<CSpinboxSlider>())
         EXPECT_TRUE(slider->isEnabled());
-    click("Range sliders enabled");
+    click("Enabled (range sliders show it when they change)");
     for (const auto* const slider : all<CRangeSlider>())
         EXPECT_TRUE(slider->isEnabled());
 }
 
 TEST_F(SlidersPageTest, SlidersWithASpinBoxCanBeDisabled) {
-    click("Sliders enabled");
+    click("Enabled");
     for (const auto* const slider : all<CSpinboxSlider>())
         EXPECT_FALSE(slider->isEnabled());
     for (const auto* const slider : all<CRangeSlider>())
