@@ -11,6 +11,7 @@
 #include <qlineedit.h>
 #include <qstyle.h>
 #include <qstylefactory.h>
+#include <qt3/LineEdit.h>
 #include <qt3/MetaObject.h>
 #include <qt3/SignalTap.h>
 #include <qt3/SpinWidget.h>
@@ -63,6 +64,15 @@ private:
         if (m_pCalls)
             m_pCalls->add(call);
     }
+};
+
+/// Counts the wheel events that its children leave to it.
+class CCountingParent : public QWidget {
+public:
+    int m_nWheels = 0;
+
+protected:
+    void wheelEvent(QWheelEvent*) override { ++m_nWheels; }
 };
 
 class CDoubleSpinBox : public testing::Test {
@@ -168,6 +178,19 @@ TEST_F(CDoubleSpinBox, ChildrenHaveTheirNamesAndPlaces) {
     EXPECT_EQ(validator->parent(), &m_box);
     EXPECT_EQ(m_box.editor()->validator(), validator);
     EXPECT_EQ(m_box.validator(), validator);
+}
+
+TEST_F(CDoubleSpinBox, OnlyTheSpinWidgetHasAFrame) {
+    EXPECT_FALSE(support::child<qt3::LineEdit>(&m_box, "LineEdit_DoubleSpinbox")->frame());
+}
+
+TEST_F(CDoubleSpinBox, BackgroundColorIsThatOfTheField) {
+    const QColor before = m_box.colorGroup().background();
+
+    m_box.setPaletteBackgroundColor(QColor(255, 0, 0));
+
+    EXPECT_EQ(m_box.colorGroup().base(), QColor(255, 0, 0));
+    EXPECT_EQ(m_box.colorGroup().background(), before);
 }
 
 TEST_F(CDoubleSpinBox, PolicyIsMinimumByFixed) {
@@ -915,6 +938,29 @@ TEST_F(CDoubleSpinBox, WheelOverTheEditorStepsOnce) {
     support::wheel(m_box.editor(), 120);
 
     EXPECT_EQ(m_recorder.take(), change("1", "1"));
+}
+
+TEST_F(CDoubleSpinBox, WheelIsTakenAlsoWhereItStepsNothing) {
+    CCountingParent parent;
+    Box inside(0.0, 10.0, 1.0, &parent, "inside");
+    support::show(&parent);
+
+    for (const int delta : {60, 120, -120, -120})
+        support::wheel(&inside, delta);
+
+    EXPECT_EQ(parent.m_nWheels, 0);
+}
+
+TEST_F(CDoubleSpinBox, KeysOfOtherWidgetsAreNotFiltered) {
+    m_other.installEventFilter(&m_box);
+
+    support::sendKey(&m_other, Qt::Key_Up);
+    support::sendKey(&m_other, Qt::Key_Down);
+    m_other.setText("7");
+    support::sendKey(&m_other, Qt::Key_Return);
+
+    EXPECT_EQ(m_recorder.take(), Lines());
+    EXPECT_EQ(m_box.shown(), "0");
 }
 
 // Validation
