@@ -15,6 +15,7 @@
 #include <qt3/MetaObject.h>
 #include <qt3/SignalTap.h>
 #include <qt3/SpinWidget.h>
+#include <qt3/WidgetFunctions.h>
 #include <qwidget.h>
 #include <utility>
 #include <vector>
@@ -1044,19 +1045,24 @@ TEST_F(CDoubleSpinBox, SpinWidgetFillsTheBox) {
     EXPECT_TRUE(m_box.spin()->geometry() == QRect(0, 0, 140, 30));
 }
 
-TEST_F(CDoubleSpinBox, HintHasRoomForTheLongestText) {
-    const QSize plain = m_box.sizeHint();
-    EXPECT_GE(plain.width(), 35 + m_box.downRect().width());
-    EXPECT_GT(plain.height(), 0);
+TEST_F(CDoubleSpinBox, HintIsTheStylesAroundTheLongestTextAndTwoBlanks) {
+    const auto widthOf = [this](const QString& text) {
+        return qt3::textWidth(m_box.editor(), text) + 2 * qt3::textWidth(m_box.editor(), " ");
+    };
+    const auto hintAround = [this](int width) {
+        const int height = m_box.editor()->sizeHint().height();
+        return qt3::sizeAround(m_box.spin(), QSize(width, height));
+    };
 
+    EXPECT_TRUE(m_box.sizeHint() == hintAround(35)); // the texts are shorter
+    m_box.setPrefix("about ");
     m_box.setSuffix(" kilometres");
-    const int suffixed = m_box.sizeHint().width();
-    EXPECT_GT(suffixed, plain.width());
+    EXPECT_TRUE(m_box.sizeHint() == hintAround(widthOf("about 10 kilometres")));
     m_box.setMinValue(-1000000.0);
-    const int ranged = m_box.sizeHint().width();
-    EXPECT_GT(ranged, suffixed);
+    EXPECT_TRUE(m_box.sizeHint() == hintAround(widthOf("about -1e+06 kilometres")));
     m_box.setSpecialValueText("a much longer text than all the others are");
-    EXPECT_GT(m_box.sizeHint().width(), ranged);
+    EXPECT_TRUE(m_box.sizeHint() ==
+                hintAround(widthOf("a much longer text than all the others are")));
 }
 
 TEST_F(CDoubleSpinBox, ShortTextsDoNotShowInTheHint) {
@@ -1242,6 +1248,7 @@ TEST_F(CDoubleSpinBox, CopySignalsByItselfAndTheButtonsStayTheOriginals) {
 TEST_F(CDoubleSpinBox, AssignmentTakesOverRangeTextsAndFlagsWithoutASignal) {
     Box other(1.0, 2.0, 0.5, &m_window, "other");
     other.setSuffix(" mm");
+    other.setButtonSymbols(TEVU::CDoubleSpinBox::PlusMinus);
     m_box.editor()->setText("7");
 
     static_cast<TEVU::CDoubleSpinBox&>(m_box) = other;
@@ -1252,6 +1259,8 @@ TEST_F(CDoubleSpinBox, AssignmentTakesOverRangeTextsAndFlagsWithoutASignal) {
     EXPECT_EQ(m_box.lineStep(), 0.5);
     EXPECT_EQ(support::text(m_box.suffix()), " mm");
     EXPECT_EQ(m_box.validator(), other.validator());
+    EXPECT_EQ(m_box.buttonSymbols(),
+              TEVU::CDoubleSpinBox::PlusMinus); // those of the other's buttons
 }
 
 TEST_F(CDoubleSpinBox, OriginalMayEndFirst) {
