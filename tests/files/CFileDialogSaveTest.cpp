@@ -1022,7 +1022,7 @@ TEST_F(CFileDialogSaveTest, NameWithGzBehindItsOnlyDotHasItsWholePathAsExtension
 
 TEST_F(CFileDialogSaveTest, NamesTypedIntoTheDialogAreKeptAsTheyStand) {
     CFileDialog dialog;
-    for (const char* name : {"my scan.png", "a.b.c.png", "100%1 &b <b>.png"}) {
+    for (const char* name : {"my scan.png", "a.b.c.png", "100%1 &b <b>.png", "say \"hi\".png"}) {
         EXPECT_TRUE(save(dialog, dir.path(name)));
         EXPECT_EQ(dialog.FilePath(), dir.path(name));
     }

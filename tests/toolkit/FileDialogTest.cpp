@@ -1,5 +1,6 @@
 #include <qt3/FileDialog.h>
 
+#include "Dialogs.h"
 #include "Events.h"
 #include "ModalDriver.h"
 #include "TempDir.h"
@@ -85,6 +86,13 @@ bool mayBeNative() {
 #else
     return qt_use_native_dialogs;
 #endif
+}
+
+/// In the open dialog.
+void acceptTyped(const std::string& name) {
+    QWidget* const dialog = QApplication::activeModalWidget();
+    support::typeFileName(dialog, name);
+    support::acceptFileName(dialog);
 }
 
 support::FileRequest shows(const std::string& folder, const std::string& fileName) {
@@ -306,6 +314,35 @@ TEST_P(FileDialogForOne, StartFileInAMissingFolderShowsTheFolderLastUsedAndNoNam
     run(m_dir.path("missing/scan.tif"));
 }
 
+TEST_P(FileDialogForOne, QuotationMarksArePartOfTheName) {
+    for (const char* name : {"say \"hi\".tif", "half\"quote.tif", "\"quoted\".tif", "\"\".tif"}) {
+        const std::string path = m_dir.writeFile(name);
+        ModalDriver driver;
+        driver.expectFileDialog({}).choose(name);
+        driver.expectFileDialog({}).choose(path);
+        driver.expectFileDialog(shows(m_dir.path(), name)).accept();
+
+        EXPECT_EQ(run(m_dir.path()), Lines{path});
+        EXPECT_EQ(run(m_dir.path()), Lines{path});
+        EXPECT_EQ(run(path), Lines{path});
+    }
+}
+
+TEST_P(FileDialogForOne, FolderWithQuotationMarksIsEntered) {
+    const std::string folder = m_dir.makeFolder("a \"b\" c");
+    std::string shown;
+    ModalDriver driver;
+    driver.expectFileDialog({})
+        .before([&shown] {
+            acceptTyped("a \"b\" c");
+            shown = support::folderOf(QApplication::activeModalWidget());
+        })
+        .cancel();
+
+    EXPECT_EQ(run(m_dir.path()), Lines());
+    EXPECT_EQ(shown, folder);
+}
+
 INSTANTIATE_TEST_SUITE_P(All, FileDialogForOne, testing::Values(c_ways[0], c_ways[2]),
                          [](const auto& row) { return std::string(row.param.name); });
 
@@ -318,6 +355,24 @@ TEST(FileDialog, SeveralComeInTheOrderTyped) {
     driver.expectFileDialog({}).chooseSeveral({"c.tif", "a.tif", "b b.tif"});
 
     EXPECT_EQ(openSeveral(dir.path()), (Lines{c, a, b}));
+}
+
+TEST(FileDialog, MissingFileWithQuotationMarksLeavesTheDialogOpen) {
+    const support::TempDir dir;
+    dir.writeFile("such");
+    ModalDriver driver;
+    driver.expectFileDialog({}).before([] { acceptTyped("no \"such\" file"); }).cancel();
+
+    EXPECT_EQ(openOne(dir.path()), "");
+}
+
+TEST(FileDialog, SavingUnderANewNameWithQuotationMarks) {
+    const support::TempDir dir;
+    dir.writeFile("hi");
+    ModalDriver driver;
+    driver.expectFileDialog(shows(dir.path(), "say \"hi\"")).accept();
+
+    EXPECT_EQ(save(dir.path("say \"hi\"")), dir.path("say \"hi\""));
 }
 
 TEST(FileDialog, SavingOverAFileIsNotAskedAbout) {

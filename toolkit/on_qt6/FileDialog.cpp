@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QPointer>
 
 namespace qt3 {
@@ -54,11 +55,50 @@ QStringList resolveFolders(const QStringList& paths) {
     return resolved;
 }
 
+// The toolkit's dialog reads quotation marks as its way to write several names into one field, also
+// where one file is asked for: a file "say "hi".tif" would come back as "hi". This one takes them as
+// part of the name unless several are asked for.
+class Dialog : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+    QStringList chosenFiles() const {
+        return m_sQuoted.isEmpty() ? selectedFiles() : QStringList(m_sQuoted);
+    }
+
+protected:
+    void accept() override;
+
+private:
+    void acceptQuoted(const QFileInfo& file);
+
+    QString m_sQuoted; ///< The path chosen, if the name has quotation marks.
+};
+
+void Dialog::accept() {
+    const auto* field = findChild<QLineEdit*>("fileNameEdit"); // null in the platform's dialog
+    const QString name = field ? field->text() : QString();
+    if (name.contains('"') && fileMode() != ExistingFiles)
+        acceptQuoted(QFileInfo(directory(), name));
+    else
+        QFileDialog::accept();
+}
+
+// As for other names: a folder is entered, and what is to be opened must be there.
+void Dialog::acceptQuoted(const QFileInfo& file) {
+    if (file.isDir()) {
+        setDirectory(file.absoluteFilePath());
+    } else if (file.exists() || fileMode() == AnyFile) {
+        m_sQuoted = file.absoluteFilePath();
+        done(Accepted);
+    }
+}
+
 // A dialog object and not the toolkit's static functions: those take no object name and ask about
 // existing files.
-QFileDialog* makeDialog(const QString& filter, QWidget* parent, const char* name,
-                        const QString& caption) {
-    QFileDialog* dialog = new QFileDialog(parent, caption, lastFolder());
+Dialog* makeDialog(const QString& filter, QWidget* parent, const char* name,
+                   const QString& caption) {
+    Dialog* dialog = new Dialog(parent, caption, lastFolder());
     dialog->setObjectName(QLatin1String(name));
     dialog->setOption(QFileDialog::DontUseNativeDialog, !s_bNative);
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
@@ -66,13 +106,13 @@ QFileDialog* makeDialog(const QString& filter, QWidget* parent, const char* name
     return dialog;
 }
 
-QStringList run(QFileDialog* newDialog) {
-    const QPointer<QFileDialog> dialog = newDialog;
+QStringList run(Dialog* newDialog) {
+    const QPointer<Dialog> dialog = newDialog;
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
         return QStringList();
     lastFolder() = dialog->directory().absolutePath();
-    const QStringList chosen = accepted ? resolveFolders(dialog->selectedFiles()) : QStringList();
+    const QStringList chosen = accepted ? resolveFolders(dialog->chosenFiles()) : QStringList();
     delete dialog;
     return chosen;
 }
@@ -86,7 +126,7 @@ QString first(const QStringList& paths) {
 QString FileDialog::getOpenFileName(const QString& startWith, const QString& filter,
                                     QWidget* parent, const char* name, const QString& caption) {
     const QString fileName = takeStartPath(startWith);
-    QFileDialog* dialog = makeDialog(filter, parent, name, caption);
+    Dialog* dialog = makeDialog(filter, parent, name, caption);
     dialog->setFileMode(QFileDialog::ExistingFile);
     if (!fileName.isEmpty())
         dialog->selectFile(fileName);
@@ -96,7 +136,7 @@ QString FileDialog::getOpenFileName(const QString& startWith, const QString& fil
 QStringList FileDialog::getOpenFileNames(const QString& filter, const QString& dir, QWidget* parent,
                                          const char* name, const QString& caption) {
     takeStartPath(dir); // a file's name is not filled in here
-    QFileDialog* dialog = makeDialog(filter, parent, name, caption);
+    Dialog* dialog = makeDialog(filter, parent, name, caption);
     dialog->setFileMode(QFileDialog::ExistingFiles);
     return run(dialog);
 }
@@ -104,7 +144,7 @@ QStringList FileDialog::getOpenFileNames(const QString& filter, const QString& d
 QString FileDialog::getSaveFileName(const QString& startWith, const QString& filter,
                                     QWidget* parent, const char* name, const QString& caption) {
     const QString fileName = takeStartPath(startWith);
-    QFileDialog* dialog = makeDialog(filter, parent, name, caption);
+    Dialog* dialog = makeDialog(filter, parent, name, caption);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     if (!fileName.isEmpty())

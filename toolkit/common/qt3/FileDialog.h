@@ -31,13 +31,17 @@ namespace qt3 {
 /// - The result is an absolute path, or empty after Cancel, Escape and closing. A link to a file is
 ///   returned as the link; links to folders on the way to it are resolved.
 /// - Nothing is appended to a name, and saving never asks about an existing file.
+/// - Where one file is asked for, quotation marks are part of its name. Where several are, each name
+///   stands in quotation marks.
 /// - When \a parent is destroyed under the open dialog, the dialog goes too, as after Cancel.
 class RUQGUI_EXPORT FileDialog {
 public:
     static QString getOpenFileName(const QString& startWith, const QString& filter, QWidget* parent,
                                    const char* name, const QString& caption);
 
-    /// \a dir is a folder. Here a file is no start path. The paths come in the order chosen.
+    /// \a dir is a folder. Here a file is no start path. The paths come in the order of the name field:
+    /// as typed, or, when files are clicked, as they are listed on Qt 3.3 and as they were clicked on
+    /// Qt 6.
     static QStringList getOpenFileNames(const QString& filter, const QString& dir, QWidget* parent,
                                         const char* name, const QString& caption);
 
