@@ -30,7 +30,7 @@ FilesPage::FilesPage(QWidget* parent, SignalLog& log)
     auto* right = new qt3::VBoxLayout(row, 8);
     right->addWidget(createOutcome());
     right->addWidget(createRemembered(), 1);
-    show(false);
+    showOutcome(false);
     m_pResult->setText("Not asked yet");
 }
 
@@ -57,15 +57,15 @@ QWidget* FilesPage::createAsking() {
 QWidget* FilesPage::createOutcome() {
     auto* box = new qt3::GroupBox("What was chosen", this, "outcome");
     auto* column = columnIn(box);
-    m_pResult = addText(box, column, "");
-    m_pPaths = addText(box, column, "");
-    m_pExtension = addText(box, column, "");
+    m_pResult = addText(box, column, "", "result");
+    m_pPaths = addPane(box, column, "chosenPaths", 6);
+    m_pExtension = addMessage(box, column, "", "extension");
     return box;
 }
 
 QWidget* FilesPage::createRemembered() {
     auto* box = new qt3::GroupBox("Remembered, also for the next start", this, "remembered");
-    m_pRemembered = addText(box, columnIn(box), "");
+    m_pRemembered = addPane(box, columnIn(box), "rememberedPaths", 0);
     return box;
 }
 
@@ -83,17 +83,19 @@ QWidget* FilesPage::createLines() {
         addText(box, column, line.m_sLabel);
         auto* widget = new CFileLineWidget("", c_sFirstFilter, line.m_eMode, box, line.m_sName);
         m_log.watch(qt3::child<qt3::LineEdit>(widget), line.m_sName);
+        connect(qt3::child<qt3::PushButton>(widget), SIGNAL(clicked()), this,
+                SLOT(showRemembered())); // comes when the line's own dialog is over
         column->addWidget(widget);
     }
     return box;
 }
 
 void FilesPage::openOne() {
-    show(m_dialog.GetOpenFileName(filter(), CFileDialog::UseWorkingDir));
+    showOutcome(m_dialog.GetOpenFileName(filter(), CFileDialog::UseWorkingDir));
 }
 
 void FilesPage::openSeveral() {
-    show(m_dialog.GetOpenFileNames(filter(), CFileDialog::UseWorkingDir) > 0);
+    showOutcome(m_dialog.GetOpenFileNames(filter(), CFileDialog::UseWorkingDir) > 0);
 }
 
 void FilesPage::saveOverwriting() {
@@ -106,16 +108,27 @@ void FilesPage::saveAppending() {
 
 void FilesPage::save(CFileDialog::EnSaveMode mode) {
     try {
-        show(m_dialog.GetSaveFileName(qt3::ascii(m_pName->text()), filter(), mode));
+        showOutcome(m_dialog.GetSaveFileName(qt3::ascii(m_pName->text()), filter(), mode));
     } catch (const TEVU::CException& error) {
         qt3::MessageBox::warning(this, "Unable to ask for a name", qt3::fromAscii(error.what()),
                                  qt3::MessageBox::Ok, 0);
     }
 }
 
-void FilesPage::show(bool chosen) {
-    m_pResult->setText(chosen ? "Chosen:" : "Cancelled. Still from the last choice:");
-    m_pPaths->setText(m_dialog.FilePathsAsQStringList().join("\n"));
+// Other pages ask for files too.
+void FilesPage::showEvent(QShowEvent* event) {
+    qt3::Widget::showEvent(event);
+    showRemembered();
+}
+
+void FilesPage::showOutcome(bool chosen) {
+    const QStringList paths = m_dialog.FilePathsAsQStringList();
+    if (chosen)
+        m_pResult->setText("Chosen:");
+    else
+        m_pResult->setText(paths.isEmpty() ? "Cancelled"
+                                           : "Cancelled. Still from the last choice:");
+    m_pPaths->setText(paths.join("\n"));
     m_pExtension->setText(qt3::fromAscii("Extension: " + m_dialog.FileExtension(false)));
     showRemembered();
 }

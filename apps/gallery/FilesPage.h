@@ -4,6 +4,7 @@
 #include <CFileDialog.h>
 #include <qt3/Label.h>
 #include <qt3/LineEdit.h>
+#include <qt3/TextEdit.h>
 #include <qt3/Widget.h>
 
 class SignalLog;
@@ -21,6 +22,10 @@ private slots:
     void openSeveral();
     void saveOverwriting();
     void saveAppending();
+    void showRemembered();
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
     QWidget* createAsking();
@@ -28,17 +33,16 @@ private:
     QWidget* createRemembered();
     QWidget* createLines();
     void save(TEVU::CFileDialog::EnSaveMode mode);
-    void show(bool chosen);
-    void showRemembered();
+    void showOutcome(bool chosen);
     std::string filter() const;
 
     SignalLog& m_log;
     qt3::LineEdit* m_pFilter;
     qt3::LineEdit* m_pName;
     qt3::Label* m_pResult;
-    qt3::Label* m_pPaths;
+    qt3::TextEdit* m_pPaths;
     qt3::Label* m_pExtension;
-    qt3::Label* m_pRemembered;
+    qt3::TextEdit* m_pRemembered;
     TEVU::CFileDialog m_dialog;
 };
 

@@ -29,7 +29,7 @@ FilterPanel::FilterPanel(QWidget* parent, const char* name)
     auto* column = columnIn(box);
     addTypes(box, column);
     addSizes(box, column);
-    m_pMessage = addText(box, column, "", "sizesMessage");
+    m_pMessage = addMessage(box, column, "", "sizesMessage");
     tell();
 }
 

@@ -30,6 +30,13 @@ qt3::Label* addText(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* tex
     return label;
 }
 
+qt3::Label* addMessage(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text,
+                       const char* name) {
+    qt3::Label* const label = addText(box, column, text, name);
+    label->setSizePolicy(QSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred));
+    return label;
+}
+
 qt3::LineEdit* addField(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label,
                         const char* text) {
     addText(box, column, label);
@@ -39,7 +46,7 @@ qt3::LineEdit* addField(qt3::GroupBox* box, qt3::VBoxLayout* column, const char*
     return field;
 }
 
-qt3::TextEdit* addPane(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* name, int lines) {
+qt3::TextEdit* addPane(QWidget* box, qt3::VBoxLayout* column, const char* name, int lines) {
     auto* pane = new qt3::TextEdit(box, name);
     pane->setReadOnly(true);
     if (lines > 0)

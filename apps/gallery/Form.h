@@ -20,12 +20,16 @@ qt3::VBoxLayout* columnIn(qt3::GroupBox* box);
 qt3::Label* addText(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text,
                     const char* name = nullptr);
 
+/// A line that says something of any length. What finds no room is cut off: it does not widen the box.
+qt3::Label* addMessage(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* text,
+                       const char* name);
+
 /// A field below its label.
 qt3::LineEdit* addField(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label,
                         const char* text);
 
 /// A text to read that may be long: it scrolls. As many lines high as that, or, for 0, as there is room.
-qt3::TextEdit* addPane(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* name, int lines);
+qt3::TextEdit* addPane(QWidget* box, qt3::VBoxLayout* column, const char* name, int lines);
 
 /// A widget right of its label.
 void addLabelled(qt3::GroupBox* box, qt3::VBoxLayout* column, const char* label, QWidget* widget);

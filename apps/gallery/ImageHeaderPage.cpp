@@ -32,8 +32,7 @@ ImageHeaderPage::ImageHeaderPage(QWidget* parent, SignalLog& log)
     auto* column = new qt3::VBoxLayout(this, 8, 8);
     column->addWidget(createFileRow());
     column->addWidget(createImageRow(), 1);
-    m_pMessage = new qt3::Label(this, "message");
-    column->addWidget(m_pMessage);
+    m_pMessage = addPane(this, column, "message", 2);
 
     showImage();
     say("A sample that exists only in memory. Open a TIFF file to edit its header.");

@@ -6,6 +6,7 @@
 #include <memory>
 #include <qt3/Label.h>
 #include <qt3/Layout.h>
+#include <qt3/TextEdit.h>
 #include <qt3/Widget.h>
 #include <string>
 
@@ -53,7 +54,7 @@ private:
     TEVU::CHeaderFieldsWidget* m_pFields; ///< Made anew for each image.
     qt3::Label* m_pPicture;
     qt3::Label* m_pCaption;
-    qt3::Label* m_pMessage;
+    qt3::TextEdit* m_pMessage;
 };
 
 QWidget* createImageHeaderPage(QWidget* parent, SignalLog& log, const Options& options);

@@ -45,7 +45,7 @@ SettingsPanel::SettingsPanel(QWidget* parent, const char* name, FilterPanel& fil
     auto* files = new qt3::HBoxLayout(column, 6);
     addButton(box, files, "&Load...", "loadSettings", SLOT(load()));
     addButton(box, files, "Sa&ve...", "saveSettings", SLOT(save()));
-    m_pMessage = addText(box, column, "Nothing loaded yet", "settingsMessage");
+    m_pMessage = addMessage(box, column, "Nothing loaded yet", "settingsMessage");
     m_pEntries = addPane(box, column, "settingsEntries", 6);
 }
 

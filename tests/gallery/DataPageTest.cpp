@@ -1,6 +1,7 @@
 #include "DataPage.h"
 
 #include "Events.h"
+#include "LeastWidth.h"
 #include "ModalDriver.h"
 #include "Options.h"
 #include "SignalLog.h"
@@ -50,8 +51,8 @@ protected:
     void open(const std::vector<std::string>& images = {}) {
         Options options;
         options.m_images = images;
-        QWidget* const page = createDataPage(&m_window, m_log, options);
-        page->resize(900, 600);
+        m_pPage = createDataPage(&m_window, m_log, options);
+        m_pPage->resize(900, 600);
         m_window.resize(900, 600);
         support::show(&m_window);
     }
@@ -101,6 +102,7 @@ protected:
     const support::TempDir m_dir;
     QWidget m_window;
     SignalLog m_log{&m_window, "log"};
+    QWidget* m_pPage = nullptr;
     support::ModalDriver m_user;
     std::string m_sConsole;
 };
@@ -315,6 +317,19 @@ TEST_F(DataPageTest, FileThatIsNoSettingsFileIsTold) {
     EXPECT_EQ(label("settingsMessage"), "Not loaded: broken.settings");
     EXPECT_EQ(pane("settingsEntries"),
               m_dir.path("broken.settings") + ": this is no entry: nonsense");
+}
+
+TEST_F(DataPageTest, LongNamesAndSizesDoNotWidenIt) {
+    open();
+    const int width = leastWidth(m_pPage);
+    const std::string name = std::string(200, 'n') + ".settings";
+    m_user.expectFileDialog({}).choose(m_dir.writeFile(name, "no settings"));
+
+    click("loadSettings");
+    typeSizes(std::string(200, 's').c_str());
+
+    EXPECT_EQ(label("settingsMessage"), "Not loaded: " + name);
+    EXPECT_LE(leastWidth(m_pPage), width);
 }
 
 TEST_F(DataPageTest, EditedParametersAreShown) {
