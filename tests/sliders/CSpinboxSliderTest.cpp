@@ -11,6 +11,7 @@
 #include <limits>
 #include <memory>
 #include <ostream>
+#include <qlayout.h>
 #include <random>
 #include <type_traits>
 #include <vector>
@@ -233,6 +234,16 @@ TEST(CSpinboxSliderTest, VerticalSliderStandsBetweenTwoSpacers) {
     EXPECT_LE(rig.m_slider.x() + rig.m_slider.width(), 110);
     EXPECT_NEAR(rig.m_slider.x() + rig.m_slider.width() / 2, 60, 1);
     EXPECT_EQ(rig.m_spin.width(), 120);
+}
+
+TEST(CSpinboxSliderTest, SpacersAreTenPixelsWideAndNoLess) {
+    StRig rig(false, Qt::Vertical);
+    rig.m_spin.setFixedWidth(5); // the slider's row alone decides
+    support::show(&rig.m_window);
+    const int least = rig.m_composite.layout()->minimumSize().width();
+    EXPECT_EQ(least, 10 + rig.m_slider.minimumSizeHint().width() + 10);
+    rig.m_composite.resize(least, 300);
+    EXPECT_EQ(rig.m_slider.x(), 10);
 }
 
 TEST(CSpinboxSliderTest, ValueOutsideAtTheStartIsKeptWhileTheChildrenClamp) {
