@@ -6,6 +6,7 @@
 #include <qevent.h>
 #include <qt3/GroupBox.h>
 #include <qt3/Label.h>
+#include <qt3/Pointer.h>
 #include <qt3/PushButton.h>
 #include <qt3/Text.h>
 #include <qt3/WidgetFunctions.h>
@@ -151,7 +152,11 @@ bool CParameterDialog::shows(const StGroup& group) const {
 }
 
 void CParameterDialog::accept() {
-    if (CField* const field = firstUnacceptable())
+    const qt3::Pointer<CParameterDialog> self(this); // the application may end under a box
+    CField* const field = firstUnacceptable();
+    if (!self)
+        return endExecOfDestroyed();
+    if (field)
         return field->focusTarget()->setFocus();
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         if (m_fields[i])
@@ -162,9 +167,10 @@ void CParameterDialog::accept() {
 
 CField* CParameterDialog::firstUnacceptable() {
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
+        CField* const field = m_fields[i].get();
         const QString label = qt3::fromAscii(plainLabel(m_dialog.parameters[i].label));
-        if (m_fields[i] && !m_fields[i]->isAcceptable(this, label))
-            return m_fields[i].get();
+        if (field && !field->isAcceptable(this, label))
+            return field; // of a dialog that is still there, unless it went under the box
     }
     return nullptr;
 }

@@ -105,20 +105,26 @@ public:
 
 protected:
     void show(const Value& value) override {
+        readTyped(); // else it would stay where the range does not change
         const auto& range = std::get<StRange>(value);
         m_pEditor->SlotSetRange(static_cast<int>(range.lower), static_cast<int>(range.upper));
     }
 
     QString shown() override {
-        for (QObject* const object : qt3::descendants(m_pEditor)) {
-            if (auto* const spinBox = dynamic_cast<qt3::SpinBox*>(object))
-                spinBox->value(); // reads typed text
-        }
+        readTyped();
         return QString::number(m_pEditor->GetLower()) + " " +
                QString::number(m_pEditor->GetUpper());
     }
 
     Value edited() override { return StRange{m_pEditor->GetLower(), m_pEditor->GetUpper()}; }
+
+private:
+    void readTyped() {
+        for (QObject* const object : qt3::descendants(m_pEditor)) {
+            if (auto* const spinBox = dynamic_cast<qt3::SpinBox*>(object))
+                spinBox->value();
+        }
+    }
 };
 
 } // namespace

@@ -196,6 +196,20 @@ TEST_F(FieldsTest, RangeIsTyped) {
               "{a: {lower: 70, upper: 80}}");
 }
 
+TEST_F(FieldsTest, RangeBeingTypedGivesWayToTheDefaults) {
+    describe(entry("range", "a", "",
+                   {{"min", whole(0)}, {"max", whole(100)}, {"default", range(10, 90)}}));
+    EXPECT_EQ(okAfter([](QWidget* dialog) {
+                  auto* const lower = support::child<qt3::SpinBox>(dialog, "spinbox1 ");
+                  support::giveFocus(lower);
+                  lower->selectAll();
+                  support::typeText(lower, "50"); // which is the range no longer, or not yet
+                  press(dialog, "defaults");
+                  EXPECT_EQ(support::text(lower->text()), "10");
+              }),
+              "{a: {lower: 10, upper: 90}}");
+}
+
 TEST_F(FieldsTest, RangeStartsWithSliderAndSpinBoxesAlike) {
     describe(entry("range", "a", "", {{"min", whole(10)}, {"max", whole(90)}}));
     give({{"a", range(20, 30)}});
@@ -445,6 +459,20 @@ TEST_F(FileFieldsTest, FileToOpenMustBeThere) {
                   makeFile("missing.tif");
               }),
               "{a: \"" + path + "\", t: \"\"}");
+}
+
+TEST_F(FileFieldsTest, DialogWhoseParentGoesUnderABoxIsCancelled) {
+    describe({entry("open file", "a", ""), entry("open file", "b", "")});
+    const std::string path = dir.path("missing.tif");
+    give({{"a", text(path.c_str())}, {"b", text(path.c_str())}});
+    auto* const window = new qt3::Widget;
+    support::show(window); // the active window is the parent
+    EXPECT_FALSE(show([&](QWidget* dialog) {
+        user.expectWarning(unreadable(path)).before([=] { delete window; });
+        auto* const edit = part<QLineEdit>(dialog, "a");
+        support::giveFocus(edit);
+        support::keyPress(edit, Qt::Key_Return, support::Modifier::None, "\r");
+    }));
 }
 
 TEST_F(FileFieldsTest, MissingFileCanBeTriedAgain) {

@@ -7,7 +7,9 @@
 #include <qt3/ComboBox.h>
 #include <qt3/Layout.h>
 #include <qt3/LineEdit.h>
+#include <qt3/MessageBox.h>
 #include <qt3/MetaObject.h>
+#include <qt3/Pointer.h>
 #include <qt3/PushButton.h>
 #include <qt3/SpinBox.h>
 #include <qt3/Text.h>
@@ -51,6 +53,21 @@ struct StAsking {
     qt3::PushButton cancel{"Cancel", &dialog};
 };
 
+/// Asks once more, as long as it is there.
+class CAskingTwice : public qt3::Dialog {
+public:
+    explicit CAskingTwice(QWidget* parent) : qt3::Dialog(parent, "first", true) {}
+
+    void accept() override {
+        const qt3::Pointer<CAskingTwice> self(this);
+        qt3::MessageBox::warning(this, "Second", "Sure?", qt3::MessageBox::Ok, 0);
+        if (self)
+            qt3::Dialog::accept();
+        else
+            endExecOfDestroyed();
+    }
+};
+
 void enter(QWidget* widget) {
     support::giveFocus(widget);
     support::keyClick(widget, Qt::Key_Return, support::Modifier::None, "\r");
@@ -88,6 +105,20 @@ TEST(DialogTest, ButtonsAnswer) {
 TEST(DialogTest, ClosingIsACancel) {
     StAsking asking;
     EXPECT_EQ(asking.answerTo([&] { asking.dialog.close(); }), qt3::Dialog::Rejected);
+}
+
+TEST(DialogTest, EndsWhenItIsDestroyedUnderAnotherOne) {
+    auto* const window = new QWidget;
+    const qt3::Pointer<CAskingTwice> dialog = new CAskingTwice(window);
+    ModalDriver driver;
+    driver.expectDialog({"first", ""}).act([](QWidget* first) {
+        static_cast<CAskingTwice*>(first)->accept();
+    });
+    driver.expectWarning({"Second", "Sure?"}).before([=] { delete window; });
+
+    dialog->exec();
+
+    EXPECT_FALSE(dialog);
 }
 
 TEST(DialogTest, EscapeIsACancelFromEveryField) {

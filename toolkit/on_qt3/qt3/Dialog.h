@@ -14,6 +14,10 @@ public:
     explicit Dialog(QWidget* parent = 0, const char* name = 0, bool modal = false,
                     WFlags flags = 0);
     ~Dialog();
+
+    /// Ends the exec() of a dialog that was destroyed while another one was open over it. To be called
+    /// from its slot that had opened the other one, when that has returned.
+    static void endExecOfDestroyed();
 };
 
 } // namespace qt3

@@ -13,6 +13,10 @@ public:
     explicit Dialog(QWidget* parent = nullptr, const char* name = nullptr, bool modal = false,
                     WFlags flags = 0);
     ~Dialog() override;
+
+    /// Ends the exec() of a dialog that was destroyed while another one was open over it: here its
+    /// destruction has.
+    static void endExecOfDestroyed() {}
 };
 
 } // namespace qt3
