@@ -36,7 +36,7 @@ public:
     /// Starts empty, with the stored value 0 and two decimals.
     explicit CDoubleLineEdit(QWidget* parent = 0, const char* name = 0);
 
-    /// Shows \a value. \param precision digits after the point, 0 for none and no point
+    /// Shows \a value. \param precision digits after the point, at most 32767; 0 for no point
     CDoubleLineEdit(double value, int precision, QWidget* parent, const char* name);
 
     CDoubleLineEdit(const CDoubleLineEdit& other);

@@ -5,6 +5,7 @@
 #include "Recorder.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 #include <memory>
 #include <qt3/MetaObject.h>
 #include <qwidget.h>
@@ -114,6 +115,14 @@ TEST_F(CDoubleLineEdit, PrecisionZeroShowsWholeNumbersWithoutAPoint) {
     EXPECT_EQ(edit.shown(), "2"); // an exact tie goes to the even digit
     edit.SetValue(1234567.8);
     EXPECT_EQ(edit.shown(), "1234568");
+}
+
+TEST_F(CDoubleLineEdit, PrecisionBeyondWhatAFieldHoldsIsCutOff) {
+    const Edit edit(0.5, std::numeric_limits<int>::max(), &m_window, "edit");
+
+    EXPECT_EQ(edit.shown().size(), 32767u);
+    EXPECT_EQ(edit.shown().substr(0, 4), "0.50");
+    EXPECT_EQ(support::text(edit.ValueToText(0.5)).size(), 2u + 32767u);
 }
 
 TEST_F(CDoubleLineEdit, ValueTextHasNoExponentAndNoGroups) {

@@ -4,6 +4,7 @@
 #include "Recorder.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 #include <qapplication.h>
 #include <qlineedit.h>
 #include <qpushbutton.h>
@@ -396,6 +397,16 @@ TEST(WheelSteps, NotchesCountInBothDirections) {
     EXPECT_EQ(wheel.take(&wheel, 120), 1);
     EXPECT_EQ(wheel.take(&wheel, 359), 2);
     EXPECT_EQ(wheel.take(&wheel, -241), -2);
+}
+
+TEST(WheelSteps, EventBeyondAnyWheelMakesTheMostSteps) {
+    qt3::WheelSteps wheel;
+    const int most = qt3::WheelSteps::c_nMostSteps;
+
+    EXPECT_EQ(wheel.take(&wheel, std::numeric_limits<int>::max()), most);
+    EXPECT_EQ(wheel.take(&wheel, std::numeric_limits<int>::min()), -most);
+    EXPECT_EQ(wheel.take(&wheel, 120), 1);
+    EXPECT_EQ(wheel.take(&wheel, 120 * most), most);
 }
 
 TEST(WheelSteps, OwnersMayAlternate) {

@@ -1,5 +1,6 @@
 #include <qt3/Text.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -150,6 +151,9 @@ std::string upperAscii(std::string text) {
     return text;
 }
 
+const int c_nMostDigits =
+    32767; // a field holds no longer text; a double has 1074 at most, then zeros
+
 std::string formatted(double value, char format, int precision) {
     constexpr std::size_t longestIntegerPart = std::numeric_limits<double>::max_exponent10 + 10;
     std::vector<char> buffer(longestIntegerPart + static_cast<std::size_t>(precision));
@@ -220,7 +224,8 @@ QString number(double value, char format, int precision) {
     if (std::isnan(value))
         return fromAscii("nan");
     const double unsignedZero = value == 0.0 ? 0.0 : value;
-    const std::string text = formatted(unsignedZero, format, precision < 0 ? 6 : precision);
+    const int digits = precision < 0 ? 6 : std::min(precision, c_nMostDigits);
+    const std::string text = formatted(unsignedZero, format, digits);
     return fromAscii(format == 'E' || format == 'G' ? upperAscii(text) : text);
 }
 

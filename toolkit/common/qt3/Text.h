@@ -43,7 +43,7 @@ RUQGUI_EXPORT double toDouble(const QString& text, bool* ok = nullptr);
 /// \a value as the C library's printf writes it in the C locale: an exact tie goes to the even
 /// digit. Two exceptions: no minus sign before a zero, and any not-a-number is "nan". \param format
 /// 'e', 'E', 'f', 'g' or 'G' \param precision digits after the point ('e', 'f') or significant
-/// digits ('g'); negative means 6
+/// digits ('g'); negative means 6, and more than 32767, which no field could hold, means 32767
 RUQGUI_EXPORT QString number(double value, char format, int precision);
 
 } // namespace qt3
