@@ -56,7 +56,7 @@ support::Lines Cases::run(const Operations& operations) {
 }
 
 bool isBroken(const std::string& line) {
-    return line.rfind(Subject::c_broken, 0) == 0;
+    return line.find(Subject::c_broken) != std::string::npos;
 }
 
 std::string verdictOn(const support::Lines& log) {

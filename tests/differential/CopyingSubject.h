@@ -24,6 +24,11 @@ protected:
     /// Whether a copy may be used when the original, with its children, is gone.
     virtual bool isUsableAlone() const { return true; }
 
+    bool isAllGone() override {
+        const auto isThere = [](const auto& each) { return !each.isNull(); };
+        return std::none_of(m_vAll.begin(), m_vAll.end(), isThere);
+    }
+
     /// Takes in the original or a copy.
     void adopt(W* one, const std::string& label) {
         m_vAll.emplace_back(one);
@@ -69,7 +74,6 @@ protected:
             m_stage.withFocusRescued([&] { delete &one; });
             if (!isUsableAlone() && !first())
                 deleteAll();
-            makeAnewIfAllAreGone();
         });
     }
 
@@ -87,15 +91,6 @@ private:
     void deleteAll() {
         for (const auto& each : m_vAll)
             delete static_cast<W*>(each);
-    }
-
-    void makeAnewIfAllAreGone() {
-        const auto isThere = [](const auto& each) { return !each.isNull(); };
-        if (std::any_of(m_vAll.begin(), m_vAll.end(), isThere))
-            return;
-        unmake();
-        m_stage.place()->show();
-        make(Operation("make"));
     }
 };
 

@@ -42,9 +42,18 @@ Peer::Peer(const std::string& command) {
 }
 
 Peer::~Peer() {
-    std::fclose(m_pTo);
+    if (m_pTo)
+        endsWell();
     std::fclose(m_pFrom);
-    waitpid(m_nProcess, nullptr, 0);
+}
+
+bool Peer::endsWell() {
+    std::fclose(m_pTo);
+    m_pTo = nullptr;
+    m_bAlive = false;
+    int status = 0;
+    waitpid(m_nProcess, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 void Peer::send(const std::string& line) {

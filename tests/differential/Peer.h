@@ -30,6 +30,10 @@ public:
 
     bool isAlive() const { return m_bAlive; }
 
+    /// There are no more questions: whether it ends well then, without a leak that a sanitizer tells
+    /// of at the end.
+    bool endsWell();
+
 private:
     void send(const std::string& line);
     bool receive(std::string* line);

@@ -32,11 +32,15 @@ Stage::~Stage() {
 void Stage::set() {
     m_pRecorder = std::make_unique<support::Recorder>();
     m_vNames.clear();
+    name(m_pBefore, "before");
+    newPlace();
+}
+
+void Stage::newPlace() {
     m_pPlace = new QWidget(&m_window);
     m_pPlace->setGeometry(c_whole);
     m_pPlace->show();
     m_pBefore->setFocus();
-    name(m_pBefore, "before");
 }
 
 void Stage::clear() {

@@ -26,6 +26,7 @@ public:
 
     /// The parent for the subject; null after its death.
     QWidget* place() { return m_pPlace; }
+    void newPlace(); ///< Instead of one that is dead.
     QWidget* before() { return m_pBefore; }
     /// A neighbour behind the subject in the order of Tab.
     void addNeighbourBehind();

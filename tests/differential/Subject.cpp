@@ -80,6 +80,7 @@ void Subject::perform(const Operation& operation, support::Lines& log) {
     if (const Action* const known = find(operation.name()))
         known->performance(operation);
     Stage::settle();
+    revive();
     const support::Lines said = m_stage.recorder().take();
     for (const std::string& line : said)
         log.push_back("  " + onOneLine(line));

@@ -44,6 +44,8 @@ protected:
 
     virtual void make(const Operation& beginning) = 0;
     virtual void unmake() = 0;
+    /// Comes after each operation: makes anew what it has destroyed.
+    virtual void revive() {}
     virtual std::string state() = 0;
     /// What must hold after each operation and does not; empty if all is well.
     virtual std::string brokenPromise() { return ""; }

@@ -1,8 +1,8 @@
 #include "WidgetSubject.h"
 
 #include <cctype>
+#include <limits>
 #include <map>
-#include <qt3/SignalTap.h>
 
 namespace differential {
 
@@ -113,6 +113,51 @@ QWidget* WidgetSubject::targetOf(const Operation& operation, const Targets& targ
 void WidgetSubject::clickSpinBox(QWidget* spinBox, bool up) {
     auto* const controls = support::child<QWidget>(spinBox, "controls");
     support::mouseClick(controls ? controls : spinBox, QPoint(60, up ? 6 : 18));
+}
+
+void WidgetSubject::revive() {
+    if (!m_stage.place())
+        m_stage.newPlace();
+    if (!isAllGone())
+        return;
+    unmake();
+    m_stage.place()->show();
+    make(Operation("make"));
+}
+
+void WidgetSubject::addRubbishActions() {
+    if (!m_taste.isRubbish())
+        return;
+    addDeaths();
+    const double most = std::numeric_limits<int>::max();
+    const double least = std::numeric_limits<int>::min();
+    // Not over the toolkit's own controls: those of Qt 3.3 make each of the steps.
+    action("wheelFar", 1, {Taste::among({most, least, least + 1, 119999.0})},
+           [this](const Operation& operation) {
+               if (widget())
+                   support::wheel(widget(), operation.integer(0));
+           });
+}
+
+// At once, by the parent, from the event loop, and on behalf of a slot.
+void WidgetSubject::addDeaths() {
+    action("deletePlace", 1, {}, [this](const Operation&) {
+        m_stage.withFocusRescued([this] { delete m_stage.place(); });
+    });
+    action("deleteLater", 1, {Taste::flag(70)}, [this](const Operation& operation) {
+        QWidget* const condemned = operation.flag(0) ? widget() : m_stage.place();
+        if (condemned)
+            condemned->deleteLater();
+    });
+    action("deleteInSlot", 1, {Taste::flag(70)}, [this](const Operation& operation) {
+        const qt3::Pointer<QWidget> condemned = operation.flag(0) ? widget() : m_stage.place();
+        m_pDeathTap = std::make_unique<qt3::SignalTap>();
+        if (widget())
+            m_pDeathTap->listenToAll(widget(), [condemned](const std::string&, const std::string&) {
+                if (condemned)
+                    condemned->deleteLater();
+            });
+    });
 }
 
 QPoint WidgetSubject::pointOf(const Operation& operation, std::size_t index,

@@ -4,9 +4,11 @@
 #include "Subject.h"
 
 #include <Events.h>
+#include <memory>
 #include <qlineedit.h>
 #include <qpoint.h>
 #include <qsize.h>
+#include <qt3/SignalTap.h>
 
 namespace differential {
 
@@ -31,6 +33,9 @@ protected:
     void addNotchActions();
     void addTypingActions();
 
+    /// Deaths of all kinds and wheels beyond any; nothing unless rubbish is wanted.
+    void addRubbishActions();
+
     /// Names a widget, and makes it one that wheel and focus, and by default the mouse, can go to.
     void target(QWidget* widget, const std::string& label, bool takesMouse = true);
     void forgetTargets();
@@ -40,6 +45,8 @@ protected:
 
     /// The main widget; null after its death.
     virtual QWidget* widget() = 0;
+    virtual bool isAllGone() { return !widget(); }
+    void revive() override;
 
     /// Not through a plain pointer where the class has an override.
     virtual void setEnabled(bool enabled) { widget()->setEnabled(enabled); }
@@ -66,6 +73,9 @@ private:
     using Targets = std::vector<qt3::Pointer<QWidget>>;
     static QWidget* targetOf(const Operation& operation, const Targets& targets);
 
+    void addDeaths();
+
+    std::unique_ptr<qt3::SignalTap> m_pDeathTap; ///< Until the next signal.
     Targets m_vTargets;
     Targets m_vMouseTargets;
 };

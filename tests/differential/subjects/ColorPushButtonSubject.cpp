@@ -22,6 +22,7 @@ public:
         const Source channel = m_taste.integer(0, 255);
         beginning({channel, channel, channel});
         addWidgetActions();
+        addRubbishActions();
         addGestureActions();
         addKeyActions({" ", " ", "Return", "Enter", "Escape", "Tab", "Backtab", "a"});
         onOne("setColor", 6, {channel, channel, channel}, [](OpenButton& b, const Operation& o) {
@@ -43,6 +44,7 @@ protected:
         m_pUser.reset();
     }
     std::string state() override;
+    std::string brokenPromise() override;
 
 private:
     std::unique_ptr<User> m_pUser;
@@ -71,6 +73,20 @@ std::string stateOf(const OpenButton& constButton) {
 
 std::string ColorPushButtonSubject::state() {
     return widgetState() + statesOfAll(stateOf);
+}
+
+std::string ColorPushButtonSubject::brokenPromise() {
+    for (const auto& each : m_vAll) {
+        if (!each)
+            continue;
+        const QColor color = each->color();
+        const bool dark = std::max({color.red(), color.green(), color.blue()}) < 130;
+        if (each->text() != color.name())
+            return "the text is not the colour's name";
+        if (each->paletteForegroundColor() != QColor(dark ? Qt::white : Qt::black))
+            return "the text is in the wrong colour";
+    }
+    return "";
 }
 
 } // namespace

@@ -26,6 +26,7 @@ public:
     DoubleLineEditSubject(Stage& stage, const Taste& taste) : CopyingSubject(stage, taste) {
         beginning({Taste::flag(75), m_taste.real(), m_taste.integer(0, 12)});
         addWidgetActions();
+        addRubbishActions();
         addWheelActions();
         std::vector<std::string> keys = commonKeys();
         for (const char* typed :

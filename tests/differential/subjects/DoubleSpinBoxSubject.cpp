@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <qt3/LineEdit.h>
 #include <qt3/SpinWidget.h>
+#include <qt3/WheelSteps.h>
 #include <qvalidator.h>
 
 namespace differential {
@@ -20,6 +21,14 @@ public:
     using CDoubleSpinBox::currentValueText;
     using CDoubleSpinBox::mapTextToValue;
     using CDoubleSpinBox::mapValueToText;
+
+    void giveNullEvents() {
+        eventFilter(nullptr, nullptr);
+        eventFilter(support::child<qt3::LineEdit>(this), nullptr);
+        wheelEvent(nullptr);
+        resizeEvent(nullptr);
+        leaveEvent(nullptr);
+    }
 
     std::function<void(const std::string&)> m_tell = [](const std::string&) {};
 
@@ -53,6 +62,7 @@ public:
         const Source real = m_taste.real();
         beginning({Taste::flag(), real, real, real, Taste::flag(30), Taste::flag(30)});
         addWidgetActions();
+        addRubbishActions();
         addMouseActions();
         addWheelActions();
         std::vector<std::string> keys = commonKeys();
@@ -72,8 +82,11 @@ protected:
     std::string brokenPromise() override;
     // An affix that looks like a part of a number is read again and again: a digit more each time.
     std::size_t mostLines(const Operation& operation) const override {
-        const int delta = operation.name() == "wheel" ? operation.integer(1) : 0;
-        return 300U * (1U + static_cast<unsigned>(std::abs(delta / 120)));
+        const std::string& name = operation.name();
+        const int delta = operation.integer(name == "wheelFar" ? 0 : 1);
+        const int notches = name.find("wheel") == 0 ? std::abs(delta / 120) : 0;
+        return 300U *
+               (1U + static_cast<unsigned>(std::min(notches, qt3::WheelSteps::c_nMostSteps)));
     }
 
 private:
@@ -83,6 +96,7 @@ private:
         return first() ? support::child<qt3::SpinWidget>(first(), "SpinWidget") : nullptr;
     }
     static std::string stateOf(const TalkingBox& box);
+    bool areButtonsRight() const;
 };
 
 void DoubleSpinBoxSubject::make(const Operation& beginning) {
@@ -117,6 +131,8 @@ void DoubleSpinBoxSubject::addValueActions() {
     onOne("stepUp", 4, {}, [](Box& b, const Operation&) { b.stepUp(); });
     onOne("stepDown", 4, {}, [](Box& b, const Operation&) { b.stepDown(); });
     onOne("addPage", 1, {}, [](Box& b, const Operation&) { b.addPage(); });
+    if (m_taste.isRubbish())
+        onOne("nullEvents", 1, {}, [](Box& b, const Operation&) { b.giveNullEvents(); });
     onOne("value", 2, {}, [this](Box& b, const Operation&) { tell("value " + shown(b.value())); });
     const auto button = [this](bool up, bool release) {
         return [=](const Operation&) {
@@ -202,8 +218,21 @@ std::string DoubleSpinBoxSubject::brokenPromise() {
         const bool reversed = range.minValue() > range.maxValue();
         if (value == value && !reversed && value != range.bound(value))
             return "the value is outside";
+        if (range.lineStep() < 0.0 || range.pageStep() < 0.0)
+            return "a negative step";
     }
-    return "";
+    return areButtonsRight() ? "" : "a button is enabled that should not be, or the reverse";
+}
+
+// Copies share the buttons: what they show then is that of the last one that wrote there.
+bool DoubleSpinBoxSubject::areButtonsRight() const {
+    if (!first() || !spinWidget() || m_vAll.size() > 1)
+        return true;
+    const TEVU::CRangeControl& range = *first();
+    const bool enabled = first()->isEnabled();
+    const bool up = enabled && (first()->wrapping() || range.value() < range.maxValue());
+    const bool down = enabled && (first()->wrapping() || range.value() > range.minValue());
+    return spinWidget()->isUpEnabled() == up && spinWidget()->isDownEnabled() == down;
 }
 
 } // namespace

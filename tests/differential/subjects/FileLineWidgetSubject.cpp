@@ -48,6 +48,7 @@ FileLineWidgetSubject::FileLineWidgetSubject(Stage& stage, const Taste& taste)
     beginning({Taste::amongTexts(c_vPaths), Taste::amongTexts({c_vFilters[0], c_vFilters[1]}),
                Taste::index(0, 2)});
     addWidgetActions();
+    addRubbishActions();
     addGestureActions();
     addKeyActions({"a", "/", ".", "5", " ", "Return", "Escape", "Left", "Right", "Home", "End",
                    "Backspace", "Delete", "Tab", "Backtab"});

@@ -63,6 +63,7 @@ HeaderFieldsSubject::HeaderFieldsSubject(Stage& stage, const Taste& taste)
     : CopyingSubject(stage, taste) {
     beginning({});
     addWidgetActions();
+    addRubbishActions();
     std::vector<std::string> keys = commonKeys();
     for (const char* typed : {"1", "2", "5", "0", "9", ".", "-", "+", "e", " ", "a", ",", "\xe9"})
         keys.emplace_back(typed);
@@ -129,6 +130,11 @@ void HeaderFieldsSubject::addFormActions() {
     onForm("SetTextX", 2, {real}, [](OpenForm& f, const Operation& o) { f.SetTextX(o.real(0)); });
     onForm("SetTextY", 2, {real}, [](OpenForm& f, const Operation& o) { f.SetTextY(o.real(0)); });
     onForm("SetTextZ", 2, {real}, [](OpenForm& f, const Operation& o) { f.SetTextZ(o.real(0)); });
+    if (m_taste.isRubbish())
+        onForm("nullEvents", 1, {}, [](OpenForm& f, const Operation&) {
+            f.eventFilter(nullptr, nullptr);
+            f.eventFilter(f.descriptionText, nullptr);
+        });
     onForm("languageChange", 1, {}, [](OpenForm& f, const Operation&) { f.languageChange(); });
     action("chooseUnit", 6, {Taste::amongTexts({"Up", "Down", "Home", "End"})},
            [this](const Operation& operation) { chooseUnit(operation.text(0)); });

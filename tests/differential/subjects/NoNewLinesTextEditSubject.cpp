@@ -17,6 +17,9 @@ public:
     void paste() override {
         m_tell("paste");
         CNoNewLinesTextEdit::paste();
+        const QString left = text();
+        if (left.contains(QChar('\r')) || left.contains(QChar('\n')))
+            m_tell(std::string(Subject::c_broken) + "a line break is left");
     }
 
     std::function<void(const std::string&)> m_tell = [](const std::string&) {};
@@ -31,6 +34,7 @@ public:
     NoNewLinesTextEditSubject(Stage& stage, const Taste& taste) : CopyingSubject(stage, taste) {
         beginning({});
         addWidgetActions();
+        addRubbishActions();
         addKeyActions({"a", "b", "c", " ", "1", "\xe9", "<", "Return", "Return", "Enter", "Left",
                        "Left", "Right", "Home", "End", "Backspace", "Delete", "Escape", "F1"});
         addOwnActions();

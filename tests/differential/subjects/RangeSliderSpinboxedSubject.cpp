@@ -3,6 +3,7 @@
 #include "../CopyingSubject.h"
 
 #include <CRangeSliderSpinboxed.h>
+#include <limits>
 
 namespace differential {
 
@@ -21,6 +22,7 @@ public:
         beginning({Taste::flag(), Taste::flag(), m_taste.integer(0, 40), m_taste.integer(30, 100),
                    m_taste.integer(-10, 10), m_taste.integer(50, 300), Taste::flag(75)});
         addWidgetActions();
+        addRubbishActions();
         addMouseActions();
         addNotchActions();
         addKeyActions({"Up", "Up", "Down", "Down", "Tab", "Backtab", "Return", "Enter", "Escape"});
@@ -34,6 +36,7 @@ protected:
     void make(const Operation& beginning) override;
     bool isUsableAlone() const override { return false; }
     std::string state() override;
+    std::string brokenPromise() override;
     QSize leastSize() override { return m_bVertical ? QSize(80, 120) : QSize(220, 24); }
     QSize greatestSize() override { return m_bVertical ? QSize(120, 250) : QSize(350, 40); }
 
@@ -157,6 +160,16 @@ std::string RangeSliderSpinboxedSubject::state() {
     const TEVU::CRangeSlider* const inner = slider();
     return state + "; " + rectText(inner->geometry()) + ' ' + shown(inner->Lower()) + ".." +
            shown(inner->Upper()) + " in " + shown(inner->Min()) + ".." + shown(inner->Max());
+}
+
+std::string RangeSliderSpinboxedSubject::brokenPromise() {
+    if (!first() || m_vAll.size() > 1)
+        return ""; // copies set the bound of the one slider that they share
+    const long long width = static_cast<long long>(first()->GetMax()) - first()->GetMin();
+    const bool given = width > 0 && width <= std::numeric_limits<int>::max();
+    return given && (slider()->Min() != 0 || slider()->Max() != width)
+               ? "the slider is not in offsets"
+               : "";
 }
 
 } // namespace

@@ -15,6 +15,15 @@ public:
     using CRangeSlider::Length;
     using CRangeSlider::RenderPrimitives;
 
+    void giveNullEvents() {
+        mousePressEvent(nullptr);
+        mouseMoveEvent(nullptr);
+        mouseReleaseEvent(nullptr);
+        paintEvent(nullptr);
+        resizeEvent(nullptr);
+        hideEvent(nullptr);
+    }
+
     std::function<void(const std::string&)> m_tell = [](const std::string&) {};
 
 protected:
@@ -28,6 +37,7 @@ public:
         beginning({Taste::flag(), m_taste.integer(0, 40), m_taste.integer(30, 100),
                    m_taste.integer(-10, 10), m_taste.integer(50, 300)});
         addWidgetActions();
+        addRubbishActions();
         addMouseActions();
         addWheelActions();
         addSetters();
@@ -44,17 +54,24 @@ protected:
 private:
     void addSetters();
     void addGrabs();
-    bool isVertical() const { return first() && first()->width() < first()->height(); }
+    /// Sends a mouse event; a range inside its bound must not be dragged out of it.
+    void drag(const std::function<void(QWidget*)>& send);
+    /// Whether the range is inside a bound that was set in one go, and that allows for any range.
+    bool isInside() const;
+
+    std::pair<int, int> m_bound; ///< As it was set in one go; its width is the greatest of a range.
+    bool m_bVertical = false;
 };
 
 void RangeSliderSubject::make(const Operation& beginning) {
-    const bool vertical = beginning.flag(0);
+    m_bVertical = beginning.flag(0);
     auto* const slider = new TalkingSlider(
-        vertical ? Qt::Vertical : Qt::Horizontal, beginning.integer(1), beginning.integer(2),
+        m_bVertical ? Qt::Vertical : Qt::Horizontal, beginning.integer(1), beginning.integer(2),
         beginning.integer(3), beginning.integer(4), m_stage.place(), "slider");
-    slider->setGeometry(10, 10, vertical ? 16 : 132, vertical ? 132 : 16);
+    slider->setGeometry(10, 10, m_bVertical ? 16 : 132, m_bVertical ? 132 : 16);
     adopt(slider, "slider");
     target(slider, "slider");
+    m_bound = {beginning.integer(3), beginning.integer(4)};
     slider->show();
     m_stage.addNeighbourBehind();
 }
@@ -70,27 +87,38 @@ void RangeSliderSubject::addSetters() {
     one("SetLower", 4, &Slider::SetLower);
     one("SetUpper", 4, &Slider::SetUpper);
     one("Move", 4, &Slider::Move);
-    one("SetMinValue", 1, &Slider::SetMinValue);
-    one("SetMaxValue", 1, &Slider::SetMaxValue);
+    const auto end = [&](const std::string& name, void (TEVU::CRangeSlider::*set)(int)) {
+        onOne(name, 1, {any}, [this, set](Slider& s, const Operation& o) {
+            (s.*set)(o.integer(0));
+            m_bound = {};
+        });
+    };
+    end("SetMinValue", &Slider::SetMinValue);
+    end("SetMaxValue", &Slider::SetMaxValue);
     onOne("SetRange", 4, {any, any},
           [](Slider& s, const Operation& o) { s.SetRange(o.integer(0), o.integer(1)); });
     onOne("SetBound", 2, {m_taste.integer(-30, 60), m_taste.integer(40, 150)},
-          [](Slider& s, const Operation& o) { s.SetBound(o.integer(0), o.integer(1)); });
+          [this](Slider& s, const Operation& o) {
+              s.SetBound(o.integer(0), o.integer(1));
+              if (&s == first())
+                  m_bound = {o.integer(0), o.integer(1)};
+          });
     onOne("EnableNullRange", 2, {Taste::flag()},
           [](Slider& s, const Operation& o) { s.EnableNullRange(o.flag(0)); });
+    if (m_taste.isRubbish())
+        onOne("nullEvents", 1, {}, [](Slider& s, const Operation&) { s.giveNullEvents(); });
     onOne("RenderPrimitives", 1, {}, [](Slider& s, const Operation&) { s.RenderPrimitives(); });
 }
 
 // Most positions of the mouse hit nothing that can be grabbed: these go along the slider in pixels.
 void RangeSliderSubject::addGrabs() {
     const auto along = [this](int pixel) {
-        return isVertical() ? QPoint(8, pixel) : QPoint(pixel, 8);
+        return m_bVertical ? QPoint(8, pixel) : QPoint(pixel, 8);
     };
     const Source pixel = m_taste.integer(-20, 160);
     const auto mouse = [=](auto send) {
         return [=](const Operation& operation) {
-            if (first())
-                send(first(), along(operation.integer(0)));
+            drag([&](QWidget* slider) { send(slider, along(operation.integer(0))); });
         };
     };
     action("grab", 6, {pixel}, mouse([](QWidget* w, QPoint at) { support::mousePress(w, at); }));
@@ -109,11 +137,26 @@ std::string RangeSliderSubject::state() {
 }
 
 std::string RangeSliderSubject::brokenPromise() {
-    const TalkingSlider* const slider = first();
-    if (!slider)
+    if (!first())
         return "";
-    const int thickness = isVertical() ? slider->width() : slider->height();
+    const int thickness = m_bVertical ? first()->width() : first()->height();
     return thickness == 16 ? "" : "the thickness is " + shown(thickness);
+}
+
+bool RangeSliderSubject::isInside() const {
+    const TalkingSlider& slider = *first();
+    return m_bound == std::pair(slider.Min(), slider.Max()) && m_bound.first < m_bound.second &&
+           slider.NullRangeEnabled() && m_bound.first <= slider.Lower() &&
+           slider.Lower() <= slider.Upper() && slider.Upper() <= m_bound.second;
+}
+
+void RangeSliderSubject::drag(const std::function<void(QWidget*)>& send) {
+    if (!first())
+        return;
+    const bool wasInside = isInside();
+    send(first());
+    if (wasInside && first() && !isInside())
+        tell(std::string(c_broken) + "the range was dragged out of its bound");
 }
 
 } // namespace

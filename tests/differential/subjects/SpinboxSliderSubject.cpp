@@ -15,6 +15,7 @@ public:
                    m_taste.integer(30, 300), m_taste.integer(1, 20), m_taste.integer(-20, 320),
                    Taste::flag(80)});
         addWidgetActions();
+        addRubbishActions();
         addNotchActions();
         addKeyActions({"Up", "Up", "Down", "Down", "Left", "Right", "Home", "End", "Tab", "Backtab",
                        "Return", "Enter", "Escape"});
@@ -114,12 +115,7 @@ void SpinboxSliderSubject::addSetters() {
         else
             spinBox()->stepDown();
     });
-    one("destroy", 1, any, [this](Class& c, int) {
-        m_stage.withFocusRescued([&] { delete &c; });
-        unmake();
-        m_stage.place()->show();
-        make(Operation("make"));
-    });
+    one("destroy", 1, any, [this](Class& c, int) { m_stage.withFocusRescued([&] { delete &c; }); });
 }
 
 std::string SpinboxSliderSubject::state() {
