@@ -19,7 +19,6 @@ public:
         mousePressEvent(nullptr);
         mouseMoveEvent(nullptr);
         mouseReleaseEvent(nullptr);
-        paintEvent(nullptr);
         resizeEvent(nullptr);
         hideEvent(nullptr);
     }
