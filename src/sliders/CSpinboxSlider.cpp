@@ -2,6 +2,7 @@
 
 #include "SliderMapping.h"
 
+#include <algorithm>
 #include <qt3/Layout.h>
 
 namespace TEVU {
@@ -53,10 +54,13 @@ void CSpinboxSlider::InitWidgets() {
     ConnectChildren();
 }
 
+// In a range with its ends exchanged, which Qt 3.3 takes as it is, a value clamps to the one end and to
+// the other without end. The setters of the ends make such a range one of a single value.
 void CSpinboxSlider::CreateChildren() {
-    m_pSlider = new qt3::Slider(m_nMin, m_nMax, m_nStep, Mirrored(m_nValue), m_eOrientation, this,
-                                "slider");
-    m_pSpinBox = new qt3::SpinBox(m_nMin, m_nMax, m_nStep, this, "spinbox");
+    const int max = std::max(m_nMin, m_nMax);
+    m_pSlider =
+        new qt3::Slider(m_nMin, max, m_nStep, Mirrored(m_nValue), m_eOrientation, this, "slider");
+    m_pSpinBox = new qt3::SpinBox(m_nMin, max, m_nStep, this, "spinbox");
     m_pSpinBox->setValue(m_nValue);
 }
 

@@ -402,6 +402,21 @@ TEST(CSpinboxSliderTest, NegativeStepIsKeptWhileTheChildrenDropTheSign) {
     EXPECT_EQ(rig.m_spin.lineStep(), 5);
 }
 
+TEST(CSpinboxSliderTest, ExchangedEndsAreOneValueForTheChildren) {
+    QWidget window;
+    CSpinboxSlider composite(50, 10, 1, 20, Qt::Horizontal, true, &window, "page");
+    auto* const spin = support::child<qt3::SpinBox>(&composite, "spinbox");
+    support::show(&window);
+
+    support::keyClick(spin, Qt::Key_Up);
+    composite.SlotSetValue(30);
+
+    EXPECT_EQ(spin->value(), 50);
+    EXPECT_EQ(spin->minValue(), 50);
+    EXPECT_EQ(spin->maxValue(), 50);
+    EXPECT_EQ(composite.GetMaxValue(), 10);
+}
+
 TEST(CSpinboxSliderTest, TypedValueCountsWithReturn) {
     StRig rig;
     support::giveFocus(&rig.m_spin);
