@@ -146,10 +146,11 @@ void SpinboxSliderSubject::addDragging() {
     action("dragSlider", 6, {part, part, Taste::flag()}, [this](const Operation& operation) {
         if (!m_pComposite)
             return;
-        const int range = slider()->maxValue() - slider()->minValue();
+        const long long least = slider()->minValue();
+        const long long range = slider()->maxValue() - least;
         if (range <= 0)
             return;
-        const int handle = (slider()->value() - slider()->minValue()) * 1000 / range;
+        const auto handle = static_cast<int>((slider()->value() - least) * 1000 / range);
         support::mousePress(slider(), pointOnSlider(handle));
         support::mouseMove(slider(), pointOnSlider(operation.integer(0)));
         support::mouseMove(slider(), pointOnSlider(operation.integer(1)));
