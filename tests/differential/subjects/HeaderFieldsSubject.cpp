@@ -94,13 +94,18 @@ void HeaderFieldsSubject::make(const Operation&) {
     m_stage.addNeighbourBehind();
 }
 
-// In a text edit up and down go by pixels, and Insert is the platform's; in the box the keys that choose are actions of their own.
+// In a text edit up and down go by pixels, Insert is the platform's, and where a selection is left for
+// is the host's choice; in the box the keys that choose are actions of their own.
 bool HeaderFieldsSubject::takesKey(const std::string& name) {
     const std::string who = m_stage.focus();
     if (who == "unit")
         return name == "Tab" || name == "Backtab";
     if (who != "description" && who != "history")
         return true;
+    if (name == "Left" || name == "Right")
+        return support::selectionOf(who == "history" ? first()->historyText
+                                                     : first()->descriptionText)
+            .empty();
     return name != "Up" && name != "Down" && name != "Page Up" && name != "Page Down" &&
            name != "Insert";
 }

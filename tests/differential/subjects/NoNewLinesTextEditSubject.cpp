@@ -44,6 +44,7 @@ public:
 protected:
     void make(const Operation& beginning) override;
     std::string state() override;
+    bool takesKey(const std::string& name) override;
     QSize greatestSize() override { return QSize(380, 200); }
 
 private:
@@ -59,6 +60,12 @@ void NoNewLinesTextEditSubject::make(const Operation&) {
     target(edit, "edit");
     edit->show();
     m_stage.addNeighbourBehind();
+}
+
+// Where a selection is left for, is the host's choice.
+bool NoNewLinesTextEditSubject::takesKey(const std::string& name) {
+    const auto* const edit = dynamic_cast<TalkingEdit*>(m_stage.focusWidget());
+    return !edit || (name != "Left" && name != "Right") || support::selectionOf(edit).empty();
 }
 
 void NoNewLinesTextEditSubject::addOwnActions() {
