@@ -117,6 +117,13 @@ TEST(SpinBoxTest, LettersAndNumbersOutOfTheRangeAreRefusedBeforeASuffixToo) {
     EXPECT_EQ(shown.text(), "10 px");
 }
 
+TEST(SpinBoxTest, SignOfAStepDoesNotCount) {
+    StFocusedBox shown;
+    shown.box.setLineStep(-3);
+    shown.box.stepUp();
+    EXPECT_EQ(shown.box.value(), 45);
+}
+
 TEST(SpinBoxTest, SignAloneGivesWayToTheValueInForce) {
     StFocusedBox shown;
     shown.box.setMinValue(-20);

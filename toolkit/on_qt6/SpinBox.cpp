@@ -5,7 +5,9 @@
 #include <qevent.h>
 #include <qlineedit.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <limits>
 
 namespace qt3 {
 
@@ -46,7 +48,8 @@ int SpinBox::value() const {
 
 void SpinBox::setLineStep(int step) {
     const QString typed = lineEdit()->text();
-    setSingleStep(std::abs(step));
+    const int least = -std::numeric_limits<int>::max(); // the one below has no positive counterpart
+    setSingleStep(std::abs(std::max(step, least)));
     if (lineEdit()->text() != typed)
         lineEdit()->setText(typed); // it goes on waiting
 }
