@@ -95,8 +95,11 @@ std::string fileModeOf(QWidget* dialog) {
     return fileDialog(dialog)->fileMode() == QFileDialog::ExistingFiles ? "open several" : "open";
 }
 
+// In a field without the focus the toolkit shows the files that it finds in the text instead.
 void typeFileName(QWidget* dialog, const std::string& text) {
-    child<QLineEdit>(dialog, c_nameField)->setText(QString::fromStdString(text));
+    auto* const field = child<QLineEdit>(dialog, c_nameField);
+    giveFocus(field);
+    field->setText(QString::fromStdString(text));
 }
 
 // By the key and not by the button: that is disabled for a file which the filter hides.
