@@ -49,6 +49,8 @@ protected:
 
 private:
     void addOwnActions();
+    /// Text put into a hidden text edit lets that of Qt 3.3 crash when it is shown. Copies stay hidden.
+    bool isSafe(const TalkingEdit& edit) const { return &edit != first() || edit.isVisible(); }
 };
 
 void NoNewLinesTextEditSubject::make(const Operation&) {
@@ -78,7 +80,10 @@ void NoNewLinesTextEditSubject::addOwnActions() {
          {std::pair{"clipboardLines", lines}, {"clipboardReturns", returns}, {"clipboard", any}})
         action(name, 3, {source},
                [](const Operation& operation) { support::setClipboard(utf8(operation.text(0))); });
-    onOne("paste", 5, {}, [](Edit& e, const Operation&) { e.paste(); });
+    onOne("paste", 5, {}, [this](Edit& e, const Operation&) {
+        if (isSafe(e))
+            e.paste();
+    });
     action("pasteKey", 5, {}, [this](const Operation&) {
         if (m_stage.focus() == "edit")
             support::keyClick(first(), Qt::Key_V, support::Modifier::Control, "\x16");
@@ -90,8 +95,8 @@ void NoNewLinesTextEditSubject::addOwnActions() {
     onOne("setText", 2, {any}, set);
     onOne("setLines", 2, {lines}, set);
     // At once: where the cursor stands in what is all selected is the host's.
-    onOne("replaceAll", 4, {Taste::index(0, 3)}, [](Edit& e, const Operation& o) {
-        if (e.text().isEmpty() || !e.isEnabled() || e.isReadOnly())
+    onOne("replaceAll", 4, {Taste::index(0, 3)}, [this](Edit& e, const Operation& o) {
+        if (e.text().isEmpty() || !e.isEnabled() || e.isReadOnly() || !isSafe(e))
             return;
         e.selectAll();
         switch (o.integer(0)) {
