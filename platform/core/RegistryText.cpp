@@ -111,8 +111,9 @@ public:
         return add(static_cast<long>(number));
     }
     bool number_float(number_float_t number, const string_t& digits) override {
-        // The parser hands on whole numbers too large for it as floating-point ones.
-        const bool isWhole = digits.find_first_of(".eE") == std::string::npos;
+        // The parser hands on whole numbers too large for it as floating-point ones. A decimal point is
+        // whatever the locale has: the parser has put it in.
+        const bool isWhole = digits.find_first_not_of("-0123456789") == std::string::npos;
         return isWhole ? refuse("a number out of range") : add(number);
     }
     bool string(string_t& text) override { return add(scalarOfText(text)); }

@@ -2,11 +2,13 @@
 
 #include "OrdinaryChild.h"
 
+#include <ruqlib2core/CValueDouble.h>
 #include <ruqlib2core/CValueLong.h>
 
+#include <clocale>
 #include <sys/stat.h>
 
-// Links, pipes, permissions, and where the settings of a user are.
+// Links, pipes, permissions, locales, and where the settings of a user are.
 
 using namespace TEVU;
 using namespace registry_tests;
@@ -128,4 +130,24 @@ TEST_F(CRegistryPosixTest, SameValueIsTriedAgainWhenItCouldNotBeWritten) {
         {m_folder.Path("")});
 
     EXPECT_EQ(SettingsInFile(), (RegistryText::Settings{{"key", std::string("text")}}));
+}
+
+TEST_F(CRegistryPosixTest, DecimalPointOfTheLocaleDoesNotMatter) {
+    support::setVariable("LOCPATH", RUQ_TEST_LOCALES);
+    for (const char* locale : {"de_DE.UTF-8", "tr_TR.UTF-8", "C"}) {
+        m_folder.Write("registry.json", "{\"half\": 0.5}");
+
+        const auto outcome = inChild(
+            [](const ChildProcess::Arguments& name) {
+                if (!std::setlocale(LC_ALL, name[0].c_str()))
+                    return std::string("there is no such locale");
+                CRegistry::Obj().SetEntry("quarter", new CValueDouble(0.25));
+                return std::to_string(CRegistry::Obj().EntryDouble("half", 0) == 0.5);
+            },
+            {locale});
+
+        EXPECT_EQ(outcome.output, "1") << locale;
+        EXPECT_EQ(outcome.errors, "") << locale;
+        EXPECT_EQ(SettingsInFile(), (RegistryText::Settings{{"half", 0.5}, {"quarter", 0.25}}));
+    }
 }

@@ -7,7 +7,6 @@
 #include <ruqlib2core/CValuePointer.h>
 
 #include <climits>
-#include <clocale>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -361,19 +360,4 @@ TEST_F(CRegistryTest, FoldersThatCannotBeMadeCostALine) {
 
     EXPECT_EQ(outcome.output, "text");
     EXPECT_EQ(linesIn(outcome.errors), 1u) << outcome.errors;
-}
-
-TEST_F(CRegistryTest, DecimalPointOfTheLocaleDoesNotMatter) {
-    m_folder.Write("registry.json", "{\"half\": 0.5}");
-    for (const char* locale : {"de_DE.UTF-8", "fr_FR.UTF-8", "C"}) {
-        const auto outcome = inChild(
-            [](const ChildProcess::Arguments& name) {
-                std::setlocale(LC_ALL, name[0].c_str());
-                CRegistry::Obj().SetEntry("quarter", new CValueDouble(0.25));
-                return std::to_string(CRegistry::Obj().EntryDouble("half", 0) == 0.5);
-            },
-            {locale});
-        EXPECT_EQ(outcome.output, "1") << locale;
-        EXPECT_EQ(SettingsInFile().at("quarter"), RegistryText::Scalar(0.25));
-    }
 }

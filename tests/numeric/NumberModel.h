@@ -1,8 +1,10 @@
 #ifndef RUQGUI_TESTS_NUMERIC_NUMBERMODEL_H
 #define RUQGUI_TESTS_NUMERIC_NUMBERMODEL_H
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
+#include <clocale>
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -22,13 +24,15 @@ inline bool same(double a, double b) {
     return (std::isnan(a) && std::isnan(b)) || (a == b && std::signbit(a) == std::signbit(b));
 }
 
-/// As printf writes it, but for the signs of zero and of what is no number. \param format such as
-/// "%.*g"
+/// As printf writes it in the C locale, but for the signs of zero and of what is no number.
+/// \param format such as "%.*g"
 inline std::string show(double number, const char* format, int precision) {
     if (std::isnan(number))
         return "nan";
     char text[400];
-    std::snprintf(text, sizeof text, format, precision, number == 0.0 ? 0.0 : number);
+    const int length =
+        std::snprintf(text, sizeof text, format, precision, number == 0.0 ? 0.0 : number);
+    std::replace(text, text + length, *std::localeconv()->decimal_point, '.');
     return text;
 }
 
