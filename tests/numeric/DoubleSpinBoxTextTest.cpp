@@ -1,10 +1,9 @@
 #include "numeric/DoubleSpinBoxText.h"
 
-#include "Events.h"
-
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
+#include <qt3/Text.h>
 
 using namespace TEVU;
 
@@ -29,7 +28,7 @@ void PrintTo(const StNumberRow& row, std::ostream* out) {
 class NumberText : public testing::TestWithParam<StNumberRow> {};
 
 TEST_P(NumberText, HasSixSignificantDigits) {
-    EXPECT_EQ(support::text(numberText(GetParam().dValue)), GetParam().sText);
+    EXPECT_EQ(qt3::ascii(numberText(GetParam().dValue)), GetParam().sText);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -63,7 +62,7 @@ class NumberWithoutAffixes : public testing::TestWithParam<StCleanRow> {};
 
 TEST_P(NumberWithoutAffixes, IsWhatIsLeft) {
     const StCleanRow& row = GetParam();
-    EXPECT_EQ(support::text(numberWithoutAffixes(row.sText, affixes(row.sPrefix, row.sSuffix))),
+    EXPECT_EQ(qt3::ascii(numberWithoutAffixes(row.sText, affixes(row.sPrefix, row.sSuffix))),
               row.sClean);
 }
 
