@@ -22,10 +22,9 @@ bool isDigit(char c) {
 /// The marker that begins at \a position; number 0 when none does.
 StMarker markerAt(const std::string& text, std::size_t position) {
     StMarker marker = {position, 1, 0};
-    if (text[position] != '%' || position + 1 == text.size() || text[position + 1] == '0')
+    if (text[position] != '%' || text[position + 1] == '0')
         return marker;
-    while (marker.length < 3 && position + marker.length < text.size() &&
-           isDigit(text[position + marker.length]))
+    while (marker.length < 3 && isDigit(text[position + marker.length])) // behind the end is a NUL
         marker.number = marker.number * 10 + (text[position + marker.length++] - '0');
     return marker;
 }

@@ -9,10 +9,9 @@ namespace {
 
 std::optional<int> indexOf(const std::string& text) {
     int index = 0;
-    const char* end = text.data() + text.size();
-    const std::from_chars_result parsed = std::from_chars(text.data(), end, index);
-    // Only the form that String() writes: "03" and "-0" stay texts.
-    if (parsed.ec != std::errc() || parsed.ptr != end || std::to_string(index) != text)
+    const auto parsed = std::from_chars(text.data(), text.data() + text.size(), index);
+    // Only the form that String() writes: "03", "3 " and "-0" stay texts. Most are no number at all.
+    if (parsed.ec != std::errc() || std::to_string(index) != text)
         return std::nullopt;
     return index;
 }

@@ -1,7 +1,6 @@
 #include "FormatRules.h"
 
 #include <algorithm>
-#include <limits>
 #include <locale>
 #include <sstream>
 
@@ -18,12 +17,6 @@ double numberOf(const std::string& version) {
     return number;
 }
 
-// Not a plain cast: that is undefined for what an int does not hold.
-int wholePart(double number) {
-    return static_cast<int>(std::clamp<double>(number, std::numeric_limits<int>::min(),
-                                               std::numeric_limits<int>::max()));
-}
-
 } // namespace
 
 StIdentifier splitIdentifier(const std::string& identifier) {
@@ -38,14 +31,7 @@ StIdentifier splitIdentifier(const std::string& identifier) {
 }
 
 bool isFutureVersion(const std::string& ofFile, const std::string& own) {
-    if (ofFile == own)
-        return false;
-    const double fileNumber = numberOf(ofFile);
-    const double ownNumber = numberOf(own);
-    const int whole = wholePart(fileNumber);
-    if (whole > wholePart(ownNumber))
-        return true;
-    return fileNumber - whole > ownNumber - whole;
+    return numberOf(ofFile) > numberOf(own);
 }
 
 } // namespace TEVU

@@ -14,8 +14,8 @@ struct StIdentifier {
 /// colon, the remainder what stands behind it. Else the whole identifier is the family.
 StIdentifier splitIdentifier(const std::string& identifier);
 
-/// Whether a file's version is newer than the program's own. They are compared as decimal numbers, the
-/// whole parts first; what is no number counts as 0, and equal texts are never newer.
+/// Whether a file's version is newer than the program's own. They are compared as decimal numbers, and
+/// what is no number counts as 0.
 bool isFutureVersion(const std::string& ofFile, const std::string& own);
 
 } // namespace TEVU

@@ -37,6 +37,7 @@ INSTANTIATE_TEST_SUITE_P(
                     StArgCase{"EmptyText", "", "x", ""}, StArgCase{"EmptyValue", "a%1b", "", "ab"},
                     StArgCase{"TwoDigits", "%12 %10", "x", "%12 x"},
                     StArgCase{"TwoDigitsAreNotOneAndADigit", "%12 %1", "x", "%12 x"},
+                    StArgCase{"TwentyIsNotNineteen", "%20 %19", "x", "%20 x"},
                     StArgCase{"ThirdDigitIsText", "%123", "x", "x3"},
                     StArgCase{"ZeroIsNoMarker", "%0 %1", "x", "%0 x"},
                     StArgCase{"LeadingZeroIsNoMarker", "%01", "x", "%01"},

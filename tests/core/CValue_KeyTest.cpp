@@ -35,6 +35,7 @@ TEST(CValue_KeyTest, IndexAndItsDecimalTextAreTheSameKey) {
 TEST(CValue_KeyTest, OtherSpellingsOfANumberAreTexts) {
     for (const char* text : {"03", "+3", "-0", " 3", "3 ", "3.0", "0x3", "2147483648", "", "-"}) {
         EXPECT_FALSE(CValue_Key(text).IsIndex()) << text;
+        EXPECT_EQ(CValue_Key(text).Index(), 0) << text;
         EXPECT_EQ(CValue_Key(text).String(), text);
     }
     EXPECT_NE(CValue_Key("03"), CValue_Key(3));
@@ -58,8 +59,16 @@ TEST(CValue_KeyTest, IndicesSortByNumberBeforeTextsByBytes) {
               (std::vector<std::string>{"-1", "9", "10", "", "03", "B", "b", "\xc3\xa4"}));
 }
 
+TEST(CValue_KeyTest, TextsThatBeginAlikeSortByTheFirstByteThatDiffers) {
+    std::vector<CValue_Key> keys = {"abd", "a\xff", "ab", "abc", "a"};
+
+    std::sort(keys.begin(), keys.end());
+
+    EXPECT_EQ(textsOf(keys), (std::vector<std::string>{"a", "ab", "abc", "abd", "a\xff"}));
+}
+
 TEST(CValue_KeyTest, ExactlyOneOfLessEqualGreaterHolds) {
-    const std::vector<CValue_Key> keys = {-1, 0, 9, 10, "0", "9", "", "03", "a", "b"};
+    const std::vector<CValue_Key> keys = {-1, 0, 9, 10, "0", "9", "", "03", "a", "ab", "ac", "b"};
     for (const CValue_Key& a : keys) {
         for (const CValue_Key& b : keys) {
             EXPECT_EQ((a < b) + (a == b) + (a > b), 1) << a.String() << " " << b.String();
