@@ -22,6 +22,11 @@ void tellWhereItHangs(int) {
     std::abort();
 }
 
+/// Each test has the patience for itself, however many run in this process.
+class CPatience : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { alarm(c_patience); }
+};
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -32,6 +37,7 @@ int main(int argc, char** argv) {
 
     std::signal(SIGALRM, tellWhereItHangs);
     alarm(c_patience);
+    testing::UnitTest::GetInstance()->listeners().Append(new CPatience); // deleted by the list
     support::prepareDisplay();
     QApplication::setDesktopSettingsAware(false);
     std::vector<char*> arguments(argv, argv + argc);
