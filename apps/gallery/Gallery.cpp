@@ -5,7 +5,6 @@
 #include "SignalLog.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <iostream>
 #include <qt3/Application.h>
@@ -20,10 +19,8 @@ namespace {
 
 // "Image header" becomes "image-header".
 std::string fileName(std::string title) {
-    std::transform(title.begin(), title.end(), title.begin(), [](unsigned char c) {
-        return c == ' ' ? '-' : static_cast<char>(std::tolower(c));
-    });
-    return title;
+    std::replace(title.begin(), title.end(), ' ', '-');
+    return qt3::ascii(qt3::lower(qt3::fromAscii(title)));
 }
 
 SignalLog* createLog(QWidget* parent) {

@@ -1,13 +1,19 @@
 #include "AsciiCase.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace TEVU {
 
-// The character goes through unsigned char: a negative argument of tolower is undefined.
+namespace {
+
+char upperCase(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+} // namespace
+
 char lowerCase(char c) {
-    return static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 std::string lowerCase(std::string text) {
@@ -16,8 +22,7 @@ std::string lowerCase(std::string text) {
 }
 
 std::string upperCase(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    std::transform(text.begin(), text.end(), text.begin(), [](char c) { return upperCase(c); });
     return text;
 }
 

@@ -5,10 +5,11 @@
 
 namespace TEVU {
 
-char lowerCase(char c); ///< By tolower.
+/// As tolower changes it in the C locale, whatever the locale is: a Turkish one would leave 'I'.
+char lowerCase(char c);
 
-/// The text with each character changed by tolower or toupper: one to one, so that its length
-/// stays.
+/// The text with each character changed as tolower or toupper does in the C locale: one to one, so
+/// that its length stays.
 std::string lowerCase(std::string text);
 std::string upperCase(std::string text);
 

@@ -2,10 +2,10 @@
 
 #include "OrdinaryChild.h"
 
+#include <OtherLocale.h>
 #include <ruqlib2core/CValueDouble.h>
 #include <ruqlib2core/CValueLong.h>
 
-#include <clocale>
 #include <sys/stat.h>
 
 // Links, pipes, permissions, locales, and where the settings of a user are.
@@ -133,13 +133,13 @@ TEST_F(CRegistryPosixTest, SameValueIsTriedAgainWhenItCouldNotBeWritten) {
 }
 
 TEST_F(CRegistryPosixTest, DecimalPointOfTheLocaleDoesNotMatter) {
-    support::setVariable("LOCPATH", RUQ_TEST_LOCALES);
     for (const char* locale : {"de_DE.UTF-8", "tr_TR.UTF-8", "C"}) {
         m_folder.Write("registry.json", "{\"half\": 0.5}");
 
         const auto outcome = inChild(
             [](const ChildProcess::Arguments& name) {
-                if (!std::setlocale(LC_ALL, name[0].c_str()))
+                const support::OtherLocale other(name[0]);
+                if (!other.IsThere())
                     return std::string("there is no such locale");
                 CRegistry::Obj().SetEntry("quarter", new CValueDouble(0.25));
                 return std::to_string(CRegistry::Obj().EntryDouble("half", 0) == 0.5);

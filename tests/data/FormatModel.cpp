@@ -1,6 +1,7 @@
 #include "FormatModel.h"
 
 #include <algorithm>
+#include <clocale>
 #include <cstdlib>
 #include <limits>
 #include <vector>
@@ -78,7 +79,9 @@ double number(const std::string& version) {
             return 0.0;
     }
     const double greatest = std::numeric_limits<double>::max();
-    return std::clamp(std::strtod(reader.Taken().c_str(), nullptr), -greatest, greatest);
+    std::string inLocale = reader.Taken();
+    std::replace(inLocale.begin(), inLocale.end(), '.', *std::localeconv()->decimal_point);
+    return std::clamp(std::strtod(inLocale.c_str(), nullptr), -greatest, greatest);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "FileDialogTest.h"
 #include "ScriptedUser.h"
 
+#include <AsciiLetters.h>
 #include <Events.h>
 #include <OrdinaryUser.h>
 #include <algorithm>
@@ -1016,7 +1017,7 @@ TEST_F(CFileDialogSaveTest, NameWithGzBehindItsOnlyDotHasItsWholePathAsExtension
 
     EXPECT_TRUE(dialog.GetSaveFileName("", "Zipped (*.gz)", CFileDialog::eOverwrite));
 
-    std::transform(path.begin(), path.end(), path.begin(), ::tolower);
+    std::transform(path.begin(), path.end(), path.begin(), support::lowerLetter);
     EXPECT_EQ(dialog.FileExtension(false), path);
 }
 

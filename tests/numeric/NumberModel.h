@@ -1,8 +1,8 @@
 #ifndef RUQGUI_TESTS_NUMERIC_NUMBERMODEL_H
 #define RUQGUI_TESTS_NUMERIC_NUMBERMODEL_H
 
+#include <AsciiLetters.h>
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <clocale>
 #include <cmath>
@@ -75,7 +75,7 @@ inline bool read(const std::string& text, double* number) {
     const std::size_t start = text.find_first_not_of(" \t\n\r\v\f");
     std::string rest = start == std::string::npos ? "" : text.substr(start);
     for (char& c : rest)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        c = support::lowerLetter(c);
     if (rest == "nan") {
         *number = c_nan;
         return true;

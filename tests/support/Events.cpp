@@ -1,6 +1,7 @@
 #include "Events.h"
 
-#include <cctype>
+#include "AsciiLetters.h"
+
 #include <chrono>
 #include <qapplication.h>
 #include <qobject.h>
@@ -23,7 +24,7 @@ protected:
         QWidget* const menu = QApplication::activePopupWidget();
         if (!menu || !menu->isVisible())
             return;
-        const char typed[] = {static_cast<char>(std::tolower(m_nKey)), '\0'};
+        const char typed[] = {lowerLetter(static_cast<char>(m_nKey)), '\0'};
         if (++m_nPresses == 1)
             keyClick(menu, m_nKey, support::Modifier::None, typed);
         else
@@ -77,8 +78,8 @@ void typeText(QWidget* widget, const char* text) {
         if (*c == '\n')
             keyClick(widget, Qt::Key_Return, Modifier::None, "\r");
         else
-            keyClick(widget, std::toupper(*c), std::isupper(*c) ? Modifier::Shift : Modifier::None,
-                     typed);
+            keyClick(widget, upperLetter(*c),
+                     lowerLetter(*c) != *c ? Modifier::Shift : Modifier::None, typed);
     }
 }
 

@@ -1,0 +1,16 @@
+# Locales whose numbers have a comma, or whose letters change their case in their own way: made here, since
+# a machine need not have them. RUQGUI_LOCALES is their folder, ruqgui_locales what a test links to.
+set(RUQGUI_LOCALES ${CMAKE_BINARY_DIR}/locales)
+foreach(name IN ITEMS de_DE tr_TR)
+    set(locale ${RUQGUI_LOCALES}/${name}.UTF-8)
+    add_custom_command(
+        OUTPUT ${locale}/LC_NUMERIC
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${RUQGUI_LOCALES}
+        COMMAND localedef -i ${name} -f UTF-8 ${locale}
+        COMMENT "Locale ${name}.UTF-8")
+    list(APPEND locale_files ${locale}/LC_NUMERIC)
+endforeach()
+add_custom_target(test_locales ALL DEPENDS ${locale_files})
+add_library(ruqgui_locales INTERFACE)
+target_compile_definitions(ruqgui_locales INTERFACE RUQGUI_LOCALES="${RUQGUI_LOCALES}")
+add_dependencies(ruqgui_locales test_locales)
