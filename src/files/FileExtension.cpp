@@ -12,12 +12,8 @@ namespace {
 
 std::string lastSections(const std::string& path, int count) {
     std::string::size_type begin = path.size() + 1;
-    for (int section = 0; section < count; ++section) {
-        const auto dot = begin < 2 ? std::string::npos : path.rfind('.', begin - 2);
-        if (dot == std::string::npos)
-            return path;
-        begin = dot + 1;
-    }
+    for (int section = 0; section < count; ++section)
+        begin = begin < 2 ? 0 : path.rfind('.', begin - 2) + 1; // 0 where there is no dot
     return path.substr(begin);
 }
 

@@ -44,7 +44,7 @@ INSTANTIATE_TEST_SUITE_P(
                     StFilling{"LetterIsNoMarker", "%a%1", {"b"}, "%ab"},
                     StFilling{"PercentSignAtTheEndStays", "100%", {"a"}, "100%"},
                     StFilling{"PercentSignBeforeAMarkerStays", "%%1", {"a"}, "%a"},
-                    StFilling{"DigitAloneStays", "1 %1", {"a"}, "1 a"}),
+                    StFilling{"DigitAloneStays", "x1 %1", {"a"}, "x1 a"}),
     [](const testing::TestParamInfo<StFilling>& row) { return std::string(row.param.name); });
 
 } // namespace

@@ -134,10 +134,20 @@ def is_code(line):
     return line.strip() and not re.match(r"\s*(//|#|using |namespace |static_assert|template)", line)
 
 
+def lines_left_out(source, lines):
+    """The indices of the lines of the functions that left-out.json names for the source."""
+    names = json.loads((HERE / "left-out.json").read_text()).get(source, {}).get("functions", [])
+    for name in names:
+        begin = next(index for index, line in enumerate(lines)
+                     if re.match(r"[^\s/].*\b%s\(" % re.escape(name), line))
+        yield from range(begin, lines.index("}", begin))
+
+
 def mutants_of(source):
     lines = (PROJECT / source).read_text().splitlines()
+    left_out = set(lines_left_out(source, lines))
     for index, line in enumerate(lines):
-        if is_code(line):
+        if is_code(line) and index not in left_out:
             for column, changed in mutated_lines(lines, index):
                 yield Mutant(source, index, column, line, changed)
 

@@ -46,6 +46,13 @@ INSTANTIATE_TEST_SUITE_P(
                     StNumberRow{"NotANumber", std::nan(""), "nan"}),
     [](const auto& row) { return std::string(row.param.sName); });
 
+TEST(Affixes, AreEmptyWhenBothAre) {
+    EXPECT_TRUE(affixes("", "").isEmpty());
+    EXPECT_FALSE(affixes("x", "").isEmpty());
+    EXPECT_FALSE(affixes("", "mm").isEmpty());
+    EXPECT_FALSE(affixes("x", "mm").isEmpty());
+}
+
 struct StCleanRow {
     const char* sName;
     const char* sText;

@@ -235,6 +235,7 @@ TEST(RangeRulesTest, BoundOfASingleValueIsTheValueUnderEveryPixel) {
         EXPECT_EQ(valueAt(pixel, {5, 5}, c_axis), 5) << pixel;
         EXPECT_EQ(valueAt(pixel, {5, 5}, {32, 16}), 5) << pixel;
         EXPECT_EQ(valueAt(pixel, {-7, -7}, {10, 16}), -7) << pixel;
+        EXPECT_EQ(valueAt(pixel, {16777217, 16777217}, c_axis), 16777217) << pixel; // no float
     }
 }
 

@@ -111,6 +111,7 @@ TEST(DoubleTextTest, DecimalsAreTheDigitsBehindThePoint) {
     EXPECT_EQ(limitedState(".25"), Acceptable);
     EXPECT_EQ(limitedState(".250"), Intermediate);
     EXPECT_EQ(limitedState("9"), Acceptable);
+    EXPECT_EQ(doubleTextState(fromAscii("1"), 0.0, 10.0, 0), Acceptable);
     EXPECT_EQ(doubleTextState(fromAscii("1."), 0.0, 10.0, 0), Acceptable);
     EXPECT_EQ(doubleTextState(fromAscii("1.0"), 0.0, 10.0, 0), Intermediate);
     EXPECT_EQ(doubleTextState(fromAscii("10000"), 0.0, 1e6, 2), Acceptable);

@@ -97,6 +97,7 @@ INSTANTIATE_TEST_SUITE_P(
         StReading{"MinusInfinity", "-inf", true, -c_infinity},
         StReading{"NotANumber", "nan", true, std::nan("")},
         StReading{"MixedCaseNotANumber", "NaN", true, std::nan("")},
+        StReading{"UpperCaseNotANumber", "NAN", true, std::nan("")},
         StReading{"LongInfinity", "infinity", false, 0.0},
         StReading{"MinusNotANumber", "-nan", false, 0.0},
         StReading{"PlusNotANumber", "+nan", false, 0.0}, StReading{"Overflow", "1e400", false, 0.0},
@@ -163,6 +164,7 @@ TEST(NumberTest, LargestDoubleHas309DigitsBeforeThePoint) {
     const std::string text = textOf(std::numeric_limits<double>::max(), 'f', 2);
     EXPECT_EQ(text.size(), 309u + 3u);
     EXPECT_EQ(text.substr(0, 5), "17976");
+    EXPECT_EQ(textOf(std::numeric_limits<double>::max(), 'f', 100).size(), 309u + 101u);
 }
 
 TEST(TextTest, AsciiOfNullIsEmpty) {
@@ -172,7 +174,9 @@ TEST(TextTest, AsciiOfNullIsEmpty) {
 TEST(TextTest, AsciiKeepsLatin1AndMarksTheRest) {
     QString text = fromAscii("a\xe4");
     text += QChar(0x20ac);
-    EXPECT_EQ(ascii(text), "a\xe4?");
+    text += QChar(0x00ff);
+    text += QChar(0x0100);
+    EXPECT_EQ(ascii(text), "a\xe4?\xff?");
 }
 
 TEST(TextTest, EveryByteSurvivesTheWayThroughAText) {
