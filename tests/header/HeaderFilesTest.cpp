@@ -16,9 +16,10 @@ using TEVU::CImage;
 using TEVU::CImageFile;
 using TEVU::COrunHeaderTools;
 
-/// What the command writes to its standard output. The test fails if the command does.
+/// What the command writes to its standard output. The test fails if the command does. Other programs speak
+/// English to the tests, and ImageMagick does not know its own words in a Turkish locale.
 std::string run(const std::string& command) {
-    std::FILE* pipe = popen(command.c_str(), "r");
+    std::FILE* pipe = popen(("export LC_ALL=C; " + command).c_str(), "r");
     std::string output;
     char chunk[256];
     while (const std::size_t nRead = std::fread(chunk, 1, sizeof chunk, pipe))
