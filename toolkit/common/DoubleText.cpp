@@ -40,31 +40,19 @@ bool isExponentSign(const QString& text, int index) {
     return code(text, index) == 'e' || code(text, index) == 'E';
 }
 
-/// The index of the only letter e; -1 if there is none or more than one.
-int onlyExponentSign(const QString& text) {
-    int found = -1;
-    for (int i = 0; i < length(text); ++i) {
-        if (!isExponentSign(text, i))
-            continue;
-        if (found >= 0)
-            return -1;
-        found = i;
-    }
-    return found;
+/// The index of the first letter e, or the length of the text.
+int exponentSign(const QString& text) {
+    int index = 0;
+    while (index < length(text) && !isExponentSign(text, index))
+        ++index;
+    return index;
 }
 
+/// Whether digits go on to the end behind a letter e at \a index and a sign. Not at the end of the text.
 bool isExponent(const QString& text, int index) {
     ++index;
     const int afterSign = code(text, index) == '-' ? index + 1 : skip(text, index, '+');
     return skipDigits(text, afterSign) == length(text);
-}
-
-bool hasExponentSign(const QString& text) {
-    for (int i = 0; i < length(text); ++i) {
-        if (isExponentSign(text, i))
-            return true;
-    }
-    return false;
 }
 
 int decimalsOf(const QString& text) {
@@ -76,7 +64,8 @@ int decimalsOf(const QString& text) {
 
 QValidator::State stateInLimits(const QString& text, double value, double bottom, double top,
                                 int decimals) {
-    const bool bTooLong = !hasExponentSign(text) && decimalsOf(text) > decimals;
+    const bool bHasExponent = exponentSign(text) < length(text);
+    const bool bTooLong = !bHasExponent && decimalsOf(text) > decimals;
     // written so that a not-a-number passes
     const bool bOutside = value < bottom || value > top;
     return bTooLong || bOutside ? QValidator::Intermediate : QValidator::Acceptable;
@@ -92,8 +81,8 @@ QValidator::State doubleTextState(const QString& text, double bottom, double top
     bool bNumber = false;
     double value = toDouble(text, &bNumber);
     if (!bNumber) {
-        const int exponent = onlyExponentSign(text);
-        if (exponent < 0 || !isExponent(text, exponent))
+        const int exponent = exponentSign(text);
+        if (!isExponent(text, exponent))
             return QValidator::Invalid;
         if (exponent == 0)
             return QValidator::Intermediate;

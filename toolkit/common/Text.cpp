@@ -62,12 +62,12 @@ private:
 
     bool readDecimal(double& value) {
         const std::size_t begin = m_nPosition;
-        std::size_t digits = takeDigits();
+        takeDigits();
         if (next() == '.') {
             ++m_nPosition;
-            digits += takeDigits();
+            takeDigits();
         }
-        return digits > 0 && takeExponent() && convert(begin, value);
+        return takeExponent() && convert(begin, value); // which wants a digit
     }
 
     /// No exponent is fine; an exponent without digits is not.
