@@ -6,7 +6,7 @@ foreach(name IN ITEMS de_DE tr_TR)
     add_custom_command(
         OUTPUT ${locale}/LC_NUMERIC
         COMMAND ${CMAKE_COMMAND} -E make_directory ${RUQGUI_LOCALES}
-        COMMAND localedef -i ${name} -f UTF-8 ${locale}
+        COMMAND localedef -i ${name} -f UTF-8 ${locale} || echo "none: its tests will fail"
         COMMENT "Locale ${name}.UTF-8")
     list(APPEND locale_files ${locale}/LC_NUMERIC)
 endforeach()
