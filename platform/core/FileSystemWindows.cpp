@@ -21,16 +21,18 @@ namespace {
 /// Closes its handle, which may be INVALID_HANDLE_VALUE for none.
 class Handle {
 public:
-    explicit Handle(HANDLE handle) : m_pHandle(handle) {}
+    explicit Handle(HANDLE handle = INVALID_HANDLE_VALUE) : m_pHandle(handle) {}
     Handle(const Handle&) = delete;
     Handle& operator=(const Handle&) = delete;
     ~Handle() { Close(); }
     operator HANDLE() const { return m_pHandle; }
     bool IsOpen() const { return m_pHandle != INVALID_HANDLE_VALUE; }
-    void Close() {
+    void Close() { Take(INVALID_HANDLE_VALUE); }
+
+    void Take(HANDLE handle) {
         if (IsOpen())
             ::CloseHandle(m_pHandle);
-        m_pHandle = INVALID_HANDLE_VALUE;
+        m_pHandle = handle;
     }
 
 private:
@@ -133,17 +135,16 @@ StReading readFile(const std::string& path, std::size_t largest) {
     reading.reason = "is no ordinary file";
     if (isFolder(path))
         return reading;
-    const auto handle =
-        std::make_shared<const Handle>(open(path, GENERIC_READ, c_nShareAll, OPEN_EXISTING));
-    if (!handle->IsOpen())
+    const Handle handle(open(path, GENERIC_READ, c_nShareAll, OPEN_EXISTING));
+    if (!handle.IsOpen())
         return failedReading(::GetLastError());
-    if (::GetFileType(*handle) != FILE_TYPE_DISK)
+    if (::GetFileType(handle) != FILE_TYPE_DISK)
         return reading;
-    const DWORD error = readAll(*handle, largest, reading.bytes);
+    const DWORD error = readAll(handle, largest, reading.bytes);
     if (error != 0)
         return failedReading(error);
     reading.state = StReading::eWhole;
-    reading.version = versionOf(*handle);
+    reading.version = versionOf(static_cast<HANDLE>(handle));
     // Nothing is held: file numbers are not used again here, and an open file would be in the way.
     return reading;
 }
@@ -191,13 +192,11 @@ std::string configurationFolder() {
 }
 
 struct Lock::StHandle {
-    explicit StHandle(HANDLE opened) : handle(opened) {}
     Handle handle;
 };
 
-Lock::Lock(const std::string& path)
-    : m_pHandle(std::make_unique<StHandle>(
-          open(path, GENERIC_READ | GENERIC_WRITE, c_nShareAll, OPEN_ALWAYS))) {
+Lock::Lock(const std::string& path) : m_pHandle(std::make_unique<StHandle>()) {
+    m_pHandle->handle.Take(open(path, GENERIC_READ | GENERIC_WRITE, c_nShareAll, OPEN_ALWAYS));
     OVERLAPPED whole = {};
     if (!m_pHandle->handle.IsOpen() ||
         !::LockFileEx(m_pHandle->handle, LOCKFILE_EXCLUSIVE_LOCK, 0, MAXDWORD, MAXDWORD, &whole))
@@ -207,16 +206,17 @@ Lock::Lock(const std::string& path)
 Lock::~Lock() = default;
 
 struct NewFile::StHandle {
-    explicit StHandle(HANDLE opened) : handle(opened) {}
     Handle handle;
 };
 
-NewFile::NewFile(const std::string& target) : m_sTarget(target) {
+// Whatever can run out of memory comes before the file is made: a constructor cleans nothing up.
+NewFile::NewFile(const std::string& target)
+    : m_sTarget(target), m_pHandle(std::make_unique<StHandle>()) {
     if (isFolder(target))
         throw CException("NewFile", target + ": is no ordinary file");
     m_sPath = newFileName(target);
     // Open without FILE_SHARE_DELETE: nobody takes it for left behind while this process lives.
-    m_pHandle = std::make_unique<StHandle>(
+    m_pHandle->handle.Take(
         open(m_sPath, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, CREATE_NEW));
     if (!m_pHandle->handle.IsOpen()) {
         m_sPath.clear();
@@ -237,19 +237,27 @@ void NewFile::MoveToTarget() {
     m_sPath.clear();
 }
 
+namespace {
+
+struct SearchCloser {
+    void operator()(void* search) const { ::FindClose(search); }
+};
+
+} // namespace
+
 void removeLeftBehind(const std::string& target) {
     WIN32_FIND_DATAW found = {};
     const std::string folder = folderOf(target);
-    const HANDLE search = ::FindFirstFileW(toWide(folder + "/*.new").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE)
+    const HANDLE first = ::FindFirstFileW(toWide(folder + "/*.new").c_str(), &found);
+    if (first == INVALID_HANDLE_VALUE)
         return;
+    const std::unique_ptr<void, SearchCloser> search(first);
     do {
         // Fails for those that a living process holds.
         const std::string name = toUtf8(found.cFileName);
         if (isNewFileName(name, target))
             ::DeleteFileW(toWide(folder + "/" + name).c_str());
-    } while (::FindNextFileW(search, &found));
-    ::FindClose(search);
+    } while (::FindNextFileW(search.get(), &found));
 }
 
 } // namespace FileSystem
