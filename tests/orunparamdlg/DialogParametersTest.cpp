@@ -191,13 +191,14 @@ void PrintTo(const ValueRow& row, std::ostream* out) {
     *out << row.name;
 }
 
+const std::string c_sFarAbove = " must be between -9 and 9, not " + std::to_string(LONG_MAX);
+
 const ValueRow c_values[] = {
     {"CountAtTheMinimum", "count", [] { return whole(-9); }, ""},
     {"CountAtTheMaximum", "count", [] { return whole(9); }, ""},
     {"CountBelow", "count", [] { return whole(-10); }, " must be between -9 and 9, not -10"},
     {"CountAbove", "count", [] { return whole(10); }, " must be between -9 and 9, not 10"},
-    {"CountFarAbove", "count", [] { return whole(LONG_MAX); },
-     " must be between -9 and 9, not 9223372036854775807"},
+    {"CountFarAbove", "count", [] { return whole(LONG_MAX); }, c_sFarAbove.c_str()},
     {"SigmaAtTheMinimum", "sigma", [] { return number(-1); }, ""},
     {"SigmaAtTheMaximum", "sigma", [] { return number(1); }, ""},
     {"SigmaJustAbove", "sigma", [] { return number(std::nextafter(1.0, 2.0)); },

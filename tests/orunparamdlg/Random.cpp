@@ -29,8 +29,9 @@ const T& oneOf(const Dice& dice, const T (&values)[count]) {
 }
 
 CValue* anyWhole(const Dice& dice) {
-    static const long values[] = {0,       1, 2, 9, -3, 16, 100, INT_MIN, INT_MAX, INT_MAX + 1L,
-                                  LONG_MIN};
+    // On Windows, where a long is no wider, it is INT_MIN once more.
+    const auto aboveInt = static_cast<long>(INT_MAX + 1LL);
+    static const long values[] = {0, 1, 2, 9, -3, 16, 100, INT_MIN, INT_MAX, aboveInt, LONG_MIN};
     return whole(oneOf(dice, values));
 }
 

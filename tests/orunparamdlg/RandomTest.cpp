@@ -295,4 +295,10 @@ TEST_P(RandomTest, EveryFaultIsToldAsTheModelSays) {
     EXPECT_GT(nWrong, c_nMapsASeed / 10);
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, RandomTest, testing::Values(1u, 2u, 3u, 4u));
+#ifdef _WIN32 // once more the same code: one seed shows whether it does the same
+const unsigned c_nSeeds = 1;
+#else
+const unsigned c_nSeeds = 4;
+#endif
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomTest, testing::Range(1u, c_nSeeds + 1));
