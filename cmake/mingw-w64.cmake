@@ -1,5 +1,5 @@
-# Cross-building for 64-bit Windows with Debian's g++-mingw-w64-x86-64-posix. Libraries for Windows that Debian
-# has no packages of, such as libtiff, are looked for in RUQGUI_WINDOWS_PREFIX.
+# Cross-building for 64-bit Windows with Debian's g++-mingw-w64-x86-64-posix. What packaging/windows/toolkit
+# has built is found in RUQGUI_WINDOWS_PREFIX.
 
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
