@@ -160,6 +160,12 @@ INSTANTIATE_TEST_SUITE_P(
                     StWriting{"LargestFixed", 1e22, 'f', 1, "10000000000000000000000.0"}),
     rowName<StWriting>);
 
+TEST(NumberTest, DecimalsEndAt32767) {
+    EXPECT_EQ(textOf(1.0, 'f', 32766).size(), 32766u + 2u);
+    EXPECT_EQ(textOf(1.0, 'f', 32767).size(), 32767u + 2u);
+    EXPECT_EQ(textOf(1.0, 'f', 32768).size(), 32767u + 2u);
+}
+
 TEST(NumberTest, LargestDoubleHas309DigitsBeforeThePoint) {
     const std::string text = textOf(std::numeric_limits<double>::max(), 'f', 2);
     EXPECT_EQ(text.size(), 309u + 3u);
