@@ -155,6 +155,7 @@ INSTANTIATE_TEST_SUITE_P(
                     StWriting{"FixedKeepsTrailingZeros", 14.44, 'f', 4, "14.4400"},
                     StWriting{"Scientific", 1.5, 'e', 3, "1.500e+00"},
                     StWriting{"UpperCase", 1000000.0, 'G', 6, "1E+06"},
+                    StWriting{"UpperCaseScientific", 1.5, 'E', 3, "1.500E+00"},
                     StWriting{"NegativePrecisionMeansSix", 1.0 / 3.0, 'g', -1, "0.333333"},
                     StWriting{"ZeroDigitsMeansOne", 26.0, 'g', 0, "3e+01"},
                     StWriting{"LargestFixed", 1e22, 'f', 1, "10000000000000000000000.0"}),

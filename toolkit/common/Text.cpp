@@ -77,25 +77,20 @@ private:
         ++m_nPosition;
         if (next() == '-' || next() == '+')
             ++m_nPosition;
-        const bool bNonZeroMantissa = m_bNonZero;
-        const bool bDigits = takeDigits() > 0;
-        m_bNonZero = bNonZeroMantissa;
-        return bDigits;
+        return takeDigits() > 0;
     }
 
     std::size_t takeDigits() {
         const std::size_t begin = m_nPosition;
-        while (next() >= '0' && next() <= '9') {
-            m_bNonZero = m_bNonZero || next() != '0';
+        while (next() >= '0' && next() <= '9')
             ++m_nPosition;
-        }
         return m_nPosition - begin;
     }
 
     bool convert(std::size_t begin, double& value) const {
         const char* const text = m_sText.data();
         const auto result = std::from_chars(text + begin, text + m_nPosition, value);
-        return result.ec == std::errc() && std::isfinite(value) && (value != 0.0) == m_bNonZero;
+        return result.ec == std::errc(); // not for what a double is too small for, in either way
     }
 
     char next() const { return m_nPosition < m_sText.size() ? m_sText[m_nPosition] : '\0'; }
@@ -103,7 +98,6 @@ private:
     std::string m_sText;
     std::size_t m_nPosition = 0;
     bool m_bSigned = false;
-    bool m_bNonZero = false; ///< A digit other than 0 stands before the exponent.
 };
 
 bool allBelow(const QString& text, unsigned limit) {
@@ -145,7 +139,7 @@ std::chars_format charsFormat(char format) {
 
 std::string upperAscii(std::string text) {
     for (char& c : text) {
-        if (c >= 'a' && c <= 'z')
+        if (c >= 'a') // all else in a number comes before the letters
             c = static_cast<char>(c - 'a' + 'A');
     }
     return text;
