@@ -30,11 +30,11 @@ struct StDoubleSpinBoxPrivate;
 /// connect(width, SIGNAL(valueChanged(double)), this, SLOT(setWidth(double)));
 /// \endcode
 ///
-/// Users step with the buttons, with Up, Down and the mouse wheel (a step a notch, at most 100 in one
-/// event), or type. What is typed is read back, "interpreted", on Return, Enter, Tab, when the editor
-/// loses the focus or is hidden, before a step, and by value(). Text that is neither a number nor the
-/// special text gives way to the text of the value in force; nothing is said. A number outside the
-/// range is clamped. Page Up and Page Down do nothing.
+/// Users step with the buttons, with Up, Down and the mouse wheel (a step a notch), or type. What is
+/// typed is read back, "interpreted", on Return, Enter, Tab, when the editor loses the focus or is
+/// hidden, before a step, and by value(). Text that is neither a number nor the special text gives
+/// way to the text of the value in force; nothing is said. A number outside the range is clamped.
+/// Page Up and Page Down do nothing.
 ///
 /// Invariants:
 /// 1. Those of CRangeControl.

@@ -1,7 +1,6 @@
 #include "WidgetSubject.h"
 
 #include <cctype>
-#include <limits>
 #include <map>
 
 namespace differential {
@@ -129,10 +128,8 @@ void WidgetSubject::addRubbishActions() {
     if (!m_taste.isRubbish())
         return;
     addDeaths();
-    const double most = std::numeric_limits<int>::max();
-    const double least = std::numeric_limits<int>::min();
-    // Not over the toolkit's own controls: those of Qt 3.3 make each of the steps.
-    action("wheelFar", 1, {Taste::among({most, least, least + 1, 119999.0})},
+    // Further than a wheel turns, and no further: a spin box makes each of the steps.
+    action("wheelFar", 1, {Taste::among({12119, -12119, 12000, -12000})},
            [this](const Operation& operation) {
                if (widget())
                    support::wheel(widget(), operation.integer(0));

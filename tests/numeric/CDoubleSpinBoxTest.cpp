@@ -924,6 +924,14 @@ TEST_F(CDoubleSpinBox, WheelStepsOnceANotch) {
     }
 }
 
+TEST_F(CDoubleSpinBox, WheelMakesAllStepsOfAnEvent) {
+    m_box.setMaxValue(1000.0);
+
+    support::wheel(&m_box, 150 * 120);
+
+    EXPECT_EQ(m_box.value(), 150.0);
+}
+
 TEST_F(CDoubleSpinBox, WheelsOfTwoBoxesDoNotAddUp) {
     Box second(0.0, 10.0, 1.0, &m_window, "second");
 

@@ -1,7 +1,5 @@
 #include <qt3/WheelSteps.h>
 
-#include <algorithm>
-
 namespace qt3 {
 
 int WheelSteps::take(const void* owner, int delta) {
@@ -14,7 +12,7 @@ int WheelSteps::take(const void* owner, int delta) {
     m_fNotches += static_cast<float>(wholeNotches);
     const int steps = static_cast<int>(m_fNotches);
     m_fNotches -= static_cast<float>(steps);
-    return std::clamp(steps, -c_nMostSteps, c_nMostSteps);
+    return steps;
 }
 
 } // namespace qt3

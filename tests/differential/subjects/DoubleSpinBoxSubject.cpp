@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <qt3/LineEdit.h>
 #include <qt3/SpinWidget.h>
-#include <qt3/WheelSteps.h>
 #include <qvalidator.h>
 
 namespace differential {
@@ -85,8 +84,7 @@ protected:
         const std::string& name = operation.name();
         const int delta = operation.integer(name == "wheelFar" ? 0 : 1);
         const int notches = name.find("wheel") == 0 ? std::abs(delta / 120) : 0;
-        return 300U *
-               (1U + static_cast<unsigned>(std::min(notches, qt3::WheelSteps::c_nMostSteps)));
+        return 300U * (1U + static_cast<unsigned>(notches));
     }
 
 private:

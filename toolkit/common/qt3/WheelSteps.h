@@ -12,12 +12,9 @@ namespace qt3 {
 /// \endcode
 ///
 /// What is left of a step waits for the next event of the same widget; an event of another widget
-/// drops it. An event of less than a whole notch adds nothing. One of more notches than a wheel can
-/// turn makes c_nMostSteps steps, so that no event takes for ever.
+/// drops it. An event of less than a whole notch adds nothing.
 class RUQGUI_EXPORT WheelSteps {
 public:
-    static constexpr int c_nMostSteps = 100;
-
     /// The steps to make now: positive is up, negative is down.
     /// \param owner the widget that got the event; it is compared, never dereferenced
     /// \param delta 120 for a notch away from the user
