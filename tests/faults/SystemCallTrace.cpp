@@ -31,7 +31,11 @@ std::string nameIn(const std::string& line) {
 StTracedRun runTraced(const std::string& arguments, const std::string& traceFile,
                       const std::string& fault) {
     // Leaks cannot be looked for in a traced process; they are in the runs without strace.
-    std::string command = "ASAN_OPTIONS=detect_leaks=0 strace -qq -y -s 200 -o " + traceFile;
+    // At addresses that are always the same, because a sanitizer reads the list of its process's
+    // memory before the save, and its length decides how many reads that takes: a call's ordinal in
+    // one process would be another call's in the next.
+    std::string command =
+        "ASAN_OPTIONS=detect_leaks=0 setarch -R strace -qq -y -s 200 -o " + traceFile;
     if (!fault.empty())
         command += " -e inject=" + fault;
     StTracedRun run;
@@ -44,12 +48,13 @@ StTracedRun runTraced(const std::string& arguments, const std::string& traceFile
         const std::string name = nameIn(line);
         if (name.empty())
             continue;
-        run.injected = run.injected || line.find("(INJECTED)") != std::string::npos;
         const int ordinal = ++ordinals[name];
         if (name == c_sMark)
             ++marks;
-        else if (marks == 1)
+        else if (marks == 1) {
             run.calls.push_back({name, line, ordinal});
+            run.injected = run.injected || line.find("(INJECTED)") != std::string::npos;
+        }
     }
     if (marks == 0)
         throw std::runtime_error("strace does not trace here: " + command);

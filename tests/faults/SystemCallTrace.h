@@ -15,7 +15,7 @@ struct StSystemCall {
 struct StTracedRun {
     std::vector<StSystemCall> calls;
     std::string output;
-    bool injected = false; ///< A call was made to fail, wherever in the process.
+    bool injected = false; ///< One of the calls was made to fail.
 };
 
 /// Runs SAVE_ONCE with these arguments under strace. \a fault is empty or what strace calls an
