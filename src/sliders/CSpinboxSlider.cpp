@@ -56,10 +56,12 @@ void CSpinboxSlider::InitWidgets() {
 
 // In a range with its ends exchanged, which Qt 3.3 takes as it is, a value clamps to the one end and to
 // the other without end. The setters of the ends make such a range one of a single value.
+// The slider gets a position within the range: one beyond it is remembered by that of Qt 3.3, whose
+// handle then does not move when the position is set later on.
 void CSpinboxSlider::CreateChildren() {
     const int max = std::max(m_nMin, m_nMax);
-    m_pSlider =
-        new qt3::Slider(m_nMin, max, m_nStep, Mirrored(m_nValue), m_eOrientation, this, "slider");
+    const int position = std::clamp(Mirrored(m_nValue), m_nMin, max);
+    m_pSlider = new qt3::Slider(m_nMin, max, m_nStep, position, m_eOrientation, this, "slider");
     m_pSpinBox = new qt3::SpinBox(m_nMin, max, m_nStep, this, "spinbox");
     m_pSpinBox->setValue(m_nValue);
 }

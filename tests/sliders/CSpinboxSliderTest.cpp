@@ -497,6 +497,20 @@ TEST_P(CSpinboxSliderMouseTest, InvertedMovesArePassedOnInUserValues) {
     EXPECT_EQ(rig.state(), "20 in 0..100, slider 80, spin box 20");
 }
 
+// Begun beyond the range, the value comes into it, and then is set: the handle is where the value is.
+TEST_P(CSpinboxSliderMouseTest, HandleIsAtAValueThatWasBeyondTheRangeAtFirst) {
+    StRig rig(false, GetParam(), 150);
+    giveTwoPixelsAValue(rig);
+    rig.m_composite.SlotSetMaxValue(200); // a pixel a value
+    rig.m_slider.setValue(150);
+    rig.lines();
+
+    support::mousePress(&rig.m_slider, middleOfHandle(rig, 75));
+    EXPECT_EQ(rig.announced(), Lines{"SignalSliderPressed()"});
+    support::mouseRelease(&rig.m_slider, middleOfHandle(rig, 75));
+    EXPECT_EQ(rig.state(), "150 in 0..200, slider 150, spin box 150");
+}
+
 // The smallest position is on the left or at the top: this drags towards the other end.
 TEST_P(CSpinboxSliderMouseTest, SmallestPositionIsAtTheBeginning) {
     StRig rig(false, GetParam());
