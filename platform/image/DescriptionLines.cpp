@@ -1,7 +1,6 @@
 #include "DescriptionLines.h"
 
 #include <algorithm>
-#include <cctype>
 #include <climits>
 #include <cmath>
 #include <locale>
@@ -15,6 +14,8 @@ const std::string c_sBlockBegin = "ImageJ=";
 const std::string c_sUnit = "unit=";
 const std::string c_sSpacing = "spacing=";
 const std::string c_sImages = "images=";
+const char c_sAsciiAlphanumerics[] =
+    "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
 
 struct StLengthName {
     const char* m_sName;
@@ -81,11 +82,10 @@ std::string lineAt(const std::string& text, std::size_t begin, std::size_t& next
     return text.substr(begin, end - begin - (returns ? 1 : 0));
 }
 
+/// A name of ASCII letters and digits, whatever the locale counts as letters, before a '='.
 bool isProperty(const std::string& line) {
-    std::size_t at = 0;
-    while (at < line.size() && std::isalnum(static_cast<unsigned char>(line[at])))
-        ++at;
-    return at > 0 && at < line.size() && line[at] == '=';
+    const std::size_t end = line.find_first_not_of(c_sAsciiAlphanumerics);
+    return end != 0 && end != std::string::npos && line[end] == '=';
 }
 
 /// The first line of a kind counts.

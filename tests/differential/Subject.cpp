@@ -1,10 +1,20 @@
 #include "Subject.h"
 
+#include <ctime>
+
 namespace differential {
 
 namespace {
 
 const char c_beginning[] = "make";
+
+// Of the processor, so that it does not matter how busy the machine is. Longest are a hundred notches in one
+// wheel event, each with a text of 32 767 digits, under sanitizers.
+const double c_mostSeconds = 20;
+
+double secondsSince(std::clock_t begin) {
+    return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+}
 
 Operation randomOperation(const std::string& name, const std::vector<Source>& sources,
                           Random& random) {
@@ -77,10 +87,12 @@ support::Lines Subject::run(const Operations& operations) {
 
 void Subject::perform(const Operation& operation, support::Lines& log) {
     log.push_back(operation.line());
+    const std::clock_t begin = std::clock();
     if (const Action* const known = find(operation.name()))
         known->performance(operation);
     Stage::settle();
     revive();
+    const double seconds = secondsSince(begin);
     const support::Lines said = m_stage.recorder().take();
     for (const std::string& line : said)
         log.push_back("  " + onOneLine(line));
@@ -90,6 +102,8 @@ void Subject::perform(const Operation& operation, support::Lines& log) {
         log.push_back(c_broken + broken);
     if (said.size() > mostLines(operation))
         log.push_back(c_broken + std::to_string(said.size()) + " lines of one operation");
+    if (seconds > c_mostSeconds)
+        log.push_back(c_broken + std::to_string(seconds) + " s of the processor for one operation");
 }
 
 } // namespace differential

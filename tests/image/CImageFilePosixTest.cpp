@@ -1,11 +1,13 @@
 #include "ImageFiles.h"
 
 #include <OrdinaryUser.h>
+#include <OtherLocale.h>
+#include <ruqlib2image/COrunHeaderTools.h>
 
 #include <csignal>
 #include <sys/resource.h>
 
-// Links, permissions and limits.
+// Links, permissions, limits and locales.
 
 using namespace TEVU;
 using namespace image_files;
@@ -76,4 +78,19 @@ TEST_F(CImageFilePosixTest, FullDiskLeavesTheOldFileAsItWas) {
     EXPECT_THAT(message, HasSubstr("cannot write"));
     EXPECT_EQ(dir.read("a.tif"), "old");
     EXPECT_EQ(run("ls -A"), "a.tif\n");
+}
+
+// What a letter is depends on the locale. What a line for programs begins with does not.
+TEST_F(CImageFilePosixTest, LineForPeopleBeginsAtTheSamePlaceInEveryLocale) {
+    const std::string line = "Gr\xF6\xDFe=3";
+    dir.writeFile("description", "ImageJ=1.53t\nunit=mm\n" + line);
+    run("convert -size 4x3 gradient: a.tif && tiffset -sf 270 description a.tif");
+    const support::OtherLocale german("de_DE.ISO-8859-1");
+    ASSERT_TRUE(german.IsThere());
+
+    const CImage image = read("a.tif");
+
+    std::string text;
+    ASSERT_TRUE(COrunHeaderTools::GetDescription(image, text));
+    EXPECT_EQ(text, line);
 }
