@@ -272,6 +272,7 @@ TEST_F(CFileDialogWritableTest, ExistingFileInALockedFolderIsWritable) {
 }
 
 TEST_F(CFileDialogWritableTest, LinkToNothingYetIsWritableAndStaysALinkToNothing) {
+    NOT_ON_WINDOWS(noLinks);
     dir.makeFolder("results");
     dir.makeLink("link.tif", dir.path("results/target.tif"));
 
@@ -282,6 +283,7 @@ TEST_F(CFileDialogWritableTest, LinkToNothingYetIsWritableAndStaysALinkToNothing
 }
 
 TEST_F(CFileDialogWritableTest, LinksInARowToNothingYetAreFollowedFromTheirOwnFolders) {
+    NOT_ON_WINDOWS(noLinks);
     dir.makeFolder("links");
     dir.makeFolder("results");
     dir.makeLink("links/second.tif", "../results/target.tif");
@@ -295,6 +297,7 @@ TEST_F(CFileDialogWritableTest, LinksInARowToNothingYetAreFollowedFromTheirOwnFo
 }
 
 TEST_F(CFileDialogWritableTest, LinkToItselfIsNotWritableAndStays) {
+    NOT_ON_WINDOWS(noLinks);
     dir.makeLink("link.tif", dir.path("link.tif"));
 
     EXPECT_FALSE(CFileDialog::IsFileWritable(toText(dir.path("link.tif")), nullptr, true));
@@ -303,6 +306,7 @@ TEST_F(CFileDialogWritableTest, LinkToItselfIsNotWritableAndStays) {
 }
 
 TEST_F(CFileDialogWritableTest, LinkIntoAMissingFolderIsNotWritableAndStays) {
+    NOT_ON_WINDOWS(noLinks);
     dir.makeLink("link.tif", dir.path("none/target.tif"));
 
     EXPECT_FALSE(CFileDialog::IsFileWritable(toText(dir.path("link.tif")), nullptr, true));
@@ -312,6 +316,7 @@ TEST_F(CFileDialogWritableTest, LinkIntoAMissingFolderIsNotWritableAndStays) {
 }
 
 TEST_F(CFileDialogWritableTest, LinkToAnExistingFileLeavesBothAsTheyAre) {
+    NOT_ON_WINDOWS(noLinks);
     dir.makeLink("link.tif", makeFile("target.tif"));
 
     EXPECT_TRUE(CFileDialog::IsFileWritable(toText(dir.path("link.tif")), nullptr, true));

@@ -16,8 +16,6 @@
 #include <ruqlib2core/CException.h>
 #include <ruqlib2core/CRegistry.h>
 #include <ruqlib2core/CValueString.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #if QT_VERSION < 0x040000
 extern bool qt_use_native_dialogs;
@@ -327,10 +325,11 @@ TEST_F(CFileDialogSaveStartTest, SavingDirectoryWithASlashAtTheEndGetsAnother) {
 
 TEST_F(CFileDialogSaveStartTest, FirstLookUpDeletesTheSavingDirectoryOfAnEarlierRun) {
     SecondProcess laterRun(&remembered);
-    SecondProcess earlierRun([this] {
-        remember("savingdir", results());
+    const auto rememberIt = [](const SecondProcess::Arguments& results) {
+        remember("savingdir", results[0]);
         return Lines{"done"};
-    });
+    };
+    SecondProcess earlierRun(rememberIt, {results()});
     ASSERT_EQ(earlierRun.result(), Lines{"done"});
 
     expectStart("scan", home() + "/scan.png");
@@ -881,6 +880,7 @@ TEST_F(CFileDialogSaveTest, FileThatAppearsWhileItsPlaceIsAskedAboutIsNotAskedAb
 }
 
 TEST_F(CFileDialogSaveTest, PlaceWhereNobodyMayWriteOpensTheDialogAgain) {
+    NOT_ON_WINDOWS(noClosedPlace);
     CFileDialog dialog;
     user.expectFileDialog({}).choose("/proc/a.png");
     user.expectWarning(unwritable("/proc/a.png")).answer("Cancel");
@@ -892,6 +892,7 @@ TEST_F(CFileDialogSaveTest, PlaceWhereNobodyMayWriteOpensTheDialogAgain) {
 }
 
 TEST_F(CFileDialogSaveTest, FullDeviceIsWritableBecauseNothingIsWritten) {
+    NOT_ON_WINDOWS(noLinks);
     CFileDialog dialog;
     const std::string path = dir.makeLink("full.png", "/dev/full");
     user.expectFileDialog({}).choose(path);
@@ -1078,6 +1079,7 @@ TEST_F(CFileDialogLongNameTest, LongerThanAnyPathIsNotWritable) {
 }
 
 TEST_F(CFileDialogSaveTest, LinkToAnExistingFileIsAskedAboutAsTheLinkAndStays) {
+    NOT_ON_WINDOWS(noLinks);
     CFileDialog dialog;
     const std::string link = dir.makeLink("link.png", makeFile("target.png"));
     user.expectFileDialog({}).choose(link);
@@ -1091,6 +1093,7 @@ TEST_F(CFileDialogSaveTest, LinkToAnExistingFileIsAskedAboutAsTheLinkAndStays) {
 }
 
 TEST_F(CFileDialogSaveTest, LinkToNothingYetIsANewFileAndStaysALinkToNothing) {
+    NOT_ON_WINDOWS(noLinks);
     CFileDialog dialog;
     const std::string link = dir.makeLink("link.png", results() + "/target.png");
 
@@ -1102,6 +1105,7 @@ TEST_F(CFileDialogSaveTest, LinkToNothingYetIsANewFileAndStaysALinkToNothing) {
 }
 
 TEST_F(CFileDialogSaveTest, LinkIntoAMissingFolderIsNotWritableAndStays) {
+    NOT_ON_WINDOWS(noLinks);
     CFileDialog dialog;
     const std::string link = dir.makeLink("link.png", dir.path("none/target.png"));
     user.expectFileDialog({}).choose(link);
@@ -1225,19 +1229,20 @@ TEST_F(CFileDialogSaveTest, ConstructorAloneSetsTheFlagAndNoLaterSaving) {
 class CFileDialogTwoProcessesTest : public CFileDialogSaveTest {
 protected:
     /// Saves thirty files into a folder of its own.
-    void saveMany(const std::string& folder) {
+    static Lines saveMany(const SecondProcess::Arguments& folder) {
         ScriptedUser script;
         CFileDialog dialog;
         for (int i = 0; i < 30; ++i) {
-            script.answer(dir.path(folder) + "/" + std::to_string(i) + ".png");
+            script.answer(folder[0] + "/" + std::to_string(i) + ".png");
             if (!ask(dialog))
                 std::abort();
         }
+        return {"done"};
     }
 
     bool isSaved(const std::string& path) const {
         const fs::path file(path);
-        const int number = std::atoi(file.stem().c_str());
+        const int number = std::atoi(file.stem().string().c_str());
         return (file.parent_path() == dir.path("first") ||
                 file.parent_path() == dir.path("second")) &&
                file.filename() == std::to_string(number) + ".png" && number < 30;
@@ -1248,16 +1253,11 @@ TEST_F(CFileDialogTwoProcessesTest, LeaveAHistoryOfWholeNamesAndOneOfTheirDirect
     dir.makeFolder("first");
     dir.makeFolder("second");
     SecondProcess laterRun(&remembered);
-    const pid_t other = fork();
-    if (other == 0) {
-        saveMany("second");
-        _exit(0); // no destructor of the test program may run twice
-    }
-    saveMany("first");
-    int status = -1;
-    waitpid(other, &status, 0);
+    SecondProcess other(saveMany, {dir.path("second")});
+    other.letGo();
+    saveMany({dir.path("first")});
 
-    EXPECT_EQ(status, 0);
+    EXPECT_EQ(other.result(), Lines{"done"});
     const Lines lines = remembered();
     ASSERT_EQ(lines.size(), 5u);
     for (int i = 0; i < 4; ++i) {

@@ -105,10 +105,11 @@ TEST_F(CFileDialogStartTest, SavingDirectoryThatIsNoTextIsPassedOver) {
 
 TEST_F(CFileDialogStartTest, FirstLookUpDeletesTheSavingDirectoryOfAnEarlierRun) {
     SecondProcess laterRun(&remembered);
-    SecondProcess earlierRun([this] {
-        remember("savingdir", dir.makeFolder("results"));
+    const auto rememberIt = [](const SecondProcess::Arguments& results) {
+        remember("savingdir", results[0]);
         return Lines{"done"};
-    });
+    };
+    SecondProcess earlierRun(rememberIt, {dir.makeFolder("results")});
     ASSERT_EQ(earlierRun.result(), Lines{"done"});
 
     expectStartIn(home());

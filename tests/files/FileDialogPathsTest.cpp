@@ -3,7 +3,7 @@
 #include "ScriptedUser.h"
 
 #include <Events.h>
-#include <cstdlib>
+#include <System.h>
 #include <deque>
 #include <filesystem>
 #include <map>
@@ -49,7 +49,7 @@ public:
     bool isWritable(const QString& name) override { return test(name, true); }
     bool canCreate(const QString& name) override { return test(name, false); }
     bool isInExistingDir(const QString& name) override {
-        return isThere(std::filesystem::path(support::text(name)).parent_path());
+        return isThere(std::filesystem::path(support::text(name)).parent_path().generic_string());
     }
 
 private:
@@ -125,7 +125,7 @@ bool ScriptedStage::test(const QString& name, bool existing) {
 class FileDialogPathsTest : private InMemory, public FileDialogTest {
 protected:
     FileDialogPathsTest() : runs(m_stage, m_stage.parent()) {
-        setenv("HOME", c_home.c_str(), true);
+        support::setVariable("HOME", c_home);
         runs.remember("savingdir", c_kept);
     }
 

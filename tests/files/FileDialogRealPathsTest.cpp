@@ -88,10 +88,11 @@ void RealStage::setLocked(const std::string& path, bool locked) {
 
 void RealStage::dialog(Dialog dialog, const std::string& start, const Lines& paths) {
     const fs::path proposal(start);
-    const support::FileRequest request = dialog == Save
-                                             ? saveIn(proposal.parent_path(), proposal.filename())
-                                         : dialog == OpenSeveral ? openSeveralIn(start)
-                                                                 : openIn(start);
+    const support::FileRequest request =
+        dialog == Save
+            ? saveIn(proposal.parent_path().generic_string(), proposal.filename().string())
+        : dialog == OpenSeveral ? openSeveralIn(start)
+                                : openIn(start);
     support::FileStep& step = m_user.expectFileDialog(request).under(&m_parent);
     if (paths.empty())
         step.cancel();
@@ -113,7 +114,7 @@ void RealStage::finishRun() {
     ASSERT_FALSE(testing::Test::HasFailure());
     for (const fs::directory_entry& entry : fs::directory_iterator(m_dir.path())) {
         if (entry.path().filename().string()[0] == 'd')
-            m_dir.remove(entry.path().filename());
+            m_dir.remove(entry.path().filename().string());
     }
     m_dir.remove("kept");
     m_dir.makeFolder("kept");

@@ -1,9 +1,10 @@
 #include "FileDialogTest.h"
 
 #include <CFileDialog.h>
+#include <ChildTask.h>
 #include <Events.h>
+#include <System.h>
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <qfile.h>
@@ -12,8 +13,6 @@
 #include <ruqlib2core/CValueLong.h>
 #include <ruqlib2core/CValueString.h>
 #include <sstream>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 using TEVU::CRegistry;
@@ -21,6 +20,41 @@ using TEVU::CRegistry;
 namespace {
 
 const char* const c_keys = "main/globalsettings/IO/";
+
+using Lines = SecondProcess::Lines;
+using Arguments = SecondProcess::Arguments;
+using Output = support::ChildProcess::Output;
+
+template <class Task>
+std::string nameOf(Task task) {
+    return support::textOf(reinterpret_cast<support::AnyFunction>(task));
+}
+
+template <class Task>
+Arguments withNameOf(Task task, const Arguments& arguments) {
+    Arguments all = {nameOf(task)};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    return all;
+}
+
+template <class Task>
+Task taskOf(const Arguments& arguments) {
+    return reinterpret_cast<Task>(support::functionOf(arguments.front()));
+}
+
+void writeLines(Output& output, const Lines& lines) {
+    for (const std::string& line : lines)
+        output.write(line + '\n');
+}
+
+void writeLinesOf(Output& output, const Arguments& arguments) {
+    writeLines(output, taskOf<Lines (*)()>(arguments)());
+}
+
+void writeLinesOfArguments(Output& output, const Arguments& arguments) {
+    const auto task = taskOf<Lines (*)(const Arguments&)>(arguments);
+    writeLines(output, task({arguments.begin() + 1, arguments.end()}));
+}
 
 std::string shortKey(const TEVU::CValue_Key& key) {
     const std::string whole = key.String();
@@ -30,8 +64,8 @@ std::string shortKey(const TEVU::CValue_Key& key) {
 } // namespace
 
 FileDialogTest::FileDialogTest() {
-    setenv("RUQ_REGISTRY", dir.path("registry.json").c_str(), true);
-    setenv("HOME", dir.makeFolder("home").c_str(), true);
+    support::setVariable("RUQ_REGISTRY", dir.path("registry.json"));
+    support::setVariable("HOME", dir.makeFolder("home"));
     fs::current_path(dir.makeFolder("working folder"));
 }
 
@@ -46,7 +80,12 @@ std::string FileDialogTest::makeFile(const std::string& name) const {
 
 QString FileDialogTest::makeFileNamed(const QString& name) const {
     const QString path = qt3::fromAscii(dir.path() + '/') + name;
-    std::ofstream(static_cast<const char*>(QFile::encodeName(path))) << "pixels";
+#ifdef _WIN32
+    const fs::path spelled = fs::u8path(support::text(path));
+#else
+    const fs::path spelled(static_cast<const char*>(QFile::encodeName(path)));
+#endif
+    std::ofstream(spelled) << "pixels";
     EXPECT_TRUE(QFile::exists(path)) << support::text(path);
     return path;
 }
@@ -86,43 +125,23 @@ void FileDialogTest::expectStartIn(const std::string& folder) {
     user.finish();
 }
 
-SecondProcess::SecondProcess(const std::function<std::vector<std::string>()>& task) {
-    int go[2];
-    int answer[2];
-    if (pipe(go) != 0 || pipe(answer) != 0)
-        std::abort();
-    m_nProcess = fork();
-    if (m_nProcess == 0) {
-        close(go[1]);
-        char sign = 0;
-        if (read(go[0], &sign, 1) == 1) {
-            for (const std::string& line : task()) {
-                if (write(answer[1], (line + '\n').data(), line.size() + 1) < 0)
-                    _exit(1);
-            }
-        }
-        _exit(0); // no destructor of the test program may run twice
-    }
-    close(go[0]);
-    close(answer[1]);
-    m_nGo = go[1];
-    m_nAnswer = answer[0];
+SecondProcess::SecondProcess(Lines (*task)())
+    : m_process(writeLinesOf, {nameOf(task)}, support::ChildProcess::eWhenTold) {}
+
+SecondProcess::SecondProcess(Lines (*task)(const Arguments& arguments), const Arguments& arguments)
+    : m_process(writeLinesOfArguments, withNameOf(task, arguments),
+                support::ChildProcess::eWhenTold) {}
+
+void SecondProcess::letGo() {
+    if (!m_bRuns)
+        m_process.letGo();
+    m_bRuns = true;
 }
 
-SecondProcess::~SecondProcess() {
-    close(m_nGo);
-    close(m_nAnswer);
-    waitpid(m_nProcess, nullptr, 0);
-}
-
-std::vector<std::string> SecondProcess::result() {
-    EXPECT_EQ(write(m_nGo, "!", 1), 1);
-    std::string text;
-    char part[4096];
-    for (ssize_t count; (count = read(m_nAnswer, part, sizeof part)) > 0;)
-        text.append(part, static_cast<std::size_t>(count));
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
+SecondProcess::Lines SecondProcess::result() {
+    letGo();
+    Lines lines;
+    std::istringstream stream(m_process.wait().output);
     for (std::string line; std::getline(stream, line);)
         lines.push_back(line);
     return lines;

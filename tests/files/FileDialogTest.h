@@ -3,9 +3,9 @@
 
 #include "Boxes.h"
 
+#include <ChildProcess.h>
 #include <ModalDriver.h>
 #include <TempDir.h>
-#include <functional>
 #include <gtest/gtest.h>
 #include <qstring.h>
 #include <string>
@@ -56,18 +56,20 @@ protected:
 /// registry for the first time.
 class SecondProcess {
 public:
-    explicit SecondProcess(const std::function<std::vector<std::string>()>& task);
-    SecondProcess(const SecondProcess&) = delete;
-    SecondProcess& operator=(const SecondProcess&) = delete;
-    ~SecondProcess();
+    using Lines = std::vector<std::string>;
+    using Arguments = support::ChildProcess::Arguments;
 
-    /// Lets the task run, and gives its lines.
-    std::vector<std::string> result();
+    explicit SecondProcess(Lines (*task)());
+    SecondProcess(Lines (*task)(const Arguments& arguments), const Arguments& arguments);
+
+    /// Lets the task run, beside what this process does.
+    void letGo();
+    /// Lets the task run, unless it does, and gives its lines.
+    Lines result();
 
 private:
-    int m_nGo = -1;
-    int m_nAnswer = -1;
-    int m_nProcess = -1;
+    support::ChildProcess m_process;
+    bool m_bRuns = false;
 };
 
 #endif

@@ -209,7 +209,7 @@ void Model::forgetEarlierSaving() {
 
 std::string Model::saveStart(const std::string& proposal) {
     const std::filesystem::path path(proposal);
-    if (path.is_absolute() && m_stage.isThere(path.parent_path()))
+    if (path.has_root_directory() && m_stage.isThere(path.parent_path().generic_string()))
         return proposal;
     forgetEarlierSaving();
     std::string folder = m_stage.home();
@@ -303,7 +303,7 @@ void Model::checkAscii(const Choice& choice, const std::string& path) {
 void Model::keep(const Lines& chosen, const char* directoryKey, bool isHistory) {
     paths = chosen;
     extension = extension_model::ofFile(chosen[0]);
-    registry[directoryKey] = std::filesystem::path(chosen[0]).parent_path();
+    registry[directoryKey] = std::filesystem::path(chosen[0]).parent_path().generic_string();
     if (!isHistory)
         return;
     for (const char* slot : {"3", "2", "1"})

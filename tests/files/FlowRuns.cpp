@@ -2,7 +2,7 @@
 
 #include "FileDialogTest.h"
 
-#include <cstdlib>
+#include <System.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -50,5 +50,5 @@ void FlowRuns::expectState() {
 
 InMemory::InMemory() {
     if (access("/dev/shm", W_OK) == 0)
-        setenv("TMPDIR", "/dev/shm", true);
+        support::setVariable("TMPDIR", "/dev/shm");
 }

@@ -5,10 +5,10 @@
 #include "ModalDriver.h"
 #include "Options.h"
 #include "SignalLog.h"
+#include "System.h"
 #include "TempDir.h"
 #include "Warnings.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <qt3/Application.h>
 #include <qt3/CheckBox.h>
@@ -42,7 +42,7 @@ const char c_plugin[] = "plugwdgt_orunparamdlg::autodlg";
 class DataPageTest : public testing::Test {
 protected:
     DataPageTest() {
-        setenv("RUQ_REGISTRY", m_dir.path("registry.json").c_str(), 1);
+        support::setVariable("RUQ_REGISTRY", m_dir.path("registry.json"));
         qt3::setMainWidget(&m_window);
     }
 

@@ -5,10 +5,10 @@
 #include "ModalDriver.h"
 #include "Options.h"
 #include "SignalLog.h"
+#include "System.h"
 #include "TempDir.h"
 
 #include <CFileLineWidget.h>
-#include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <qt3/Application.h>
@@ -24,7 +24,7 @@ namespace {
 class FilesPageTest : public testing::Test {
 protected:
     FilesPageTest() {
-        setenv("RUQ_REGISTRY", m_dir.path("registry.json").c_str(), 1);
+        support::setVariable("RUQ_REGISTRY", m_dir.path("registry.json"));
         qt3::setMainWidget(&m_window);
         m_pPage = createFilesPage(&m_window, m_log, Options());
         m_pPage->resize(900, 600);

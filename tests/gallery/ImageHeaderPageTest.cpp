@@ -4,9 +4,9 @@
 #include "LeastWidth.h"
 #include "Options.h"
 #include "SignalLog.h"
+#include "System.h"
 #include "TempDir.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <qt3/Application.h>
@@ -24,7 +24,7 @@ namespace {
 class ImageHeaderPageTest : public testing::Test {
 protected:
     ImageHeaderPageTest() {
-        setenv("RUQ_REGISTRY", m_dir.path("registry.json").c_str(), 1);
+        support::setVariable("RUQ_REGISTRY", m_dir.path("registry.json"));
         qt3::setMainWidget(&m_window);
         m_pPage = new ImageHeaderPage(&m_window, m_log);
         support::show(&m_window);

@@ -1,9 +1,10 @@
 #include "Form.h"
 #include "ImageHeaders.h"
 #include "ModalDriver.h"
+#include "Programs.h"
 #include "TempDir.h"
 
-#include <cstdio>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <ruqlib2core/CValueMap.h>
 #include <ruqlib2image/CImage.h>
@@ -16,18 +17,6 @@ using TEVU::CImage;
 using TEVU::CImageFile;
 using TEVU::COrunHeaderTools;
 
-/// What the command writes to its standard output. The test fails if the command does. Other programs speak
-/// English to the tests, and ImageMagick does not know its own words in a Turkish locale.
-std::string run(const std::string& command) {
-    std::FILE* pipe = popen(("export LC_ALL=C; " + command).c_str(), "r");
-    std::string output;
-    char chunk[256];
-    while (const std::size_t nRead = std::fread(chunk, 1, sizeof chunk, pipe))
-        output.append(chunk, nRead);
-    EXPECT_EQ(pclose(pipe), 0) << command;
-    return output;
-}
-
 /// Real files, and a user who edits their headers. Programs that know nothing of this library make
 /// the files and look at what has become of them.
 class HeaderFiles : public testing::Test {
@@ -36,10 +25,19 @@ protected:
 
     std::string file(const char* name) const { return m_dir.path(name); }
 
+    /// What another program prints that is run in the folder of the files.
+    std::string run(const std::string& command) const {
+        return programs::run(m_dir.path(), command);
+    }
+
+    static std::string nameIn(const std::string& path) {
+        return std::filesystem::path(path).filename().string();
+    }
+
     /// A page of 8 by 6 pixels of 254 dots an inch: 100 micrometres each way.
     std::string makePage() const {
-        run("convert -size 8x6 gradient:black-white -depth 8 -density 254 -units PixelsPerInch " +
-            file("page.tif"));
+        run("convert -size 8x6 gradient:black-white -depth 8 -density 254 -units PixelsPerInch "
+            "page.tif");
         return file("page.tif");
     }
 
@@ -47,19 +45,18 @@ protected:
     std::string makeStack() const {
         run("convert -size 8x6 gradient:black-white -depth 8 '(' +clone -negate ')' "
             "'(' +clone -flip ')' -density 10000 -units PixelsPerCentimeter "
-            "-set comment 'unit=um\nspacing=2.0\n' " +
-            file("stack.tif"));
+            "-set comment 'unit=um\nspacing=2.0\n' stack.tif");
         return file("stack.tif");
     }
 
     /// The pixels of a file, page by page, as another program reads them.
-    static std::string pixels(const std::string& path) {
-        return run("identify -format '%wx%h %#\n' " + path);
+    std::string pixels(const std::string& path) const {
+        return run("identify -format '%wx%h %#\n' " + nameIn(path));
     }
 
     /// The dots per centimetre as another program reads them, page by page.
-    static std::string resolution(const std::string& path) {
-        return run("identify -units PixelsPerCentimeter -format '%x %y\n' " + path);
+    std::string resolution(const std::string& path) const {
+        return run("identify -units PixelsPerCentimeter -format '%x %y\n' " + nameIn(path));
     }
 
     void chooseUnit(std::initializer_list<int> keys) {
@@ -127,7 +124,7 @@ TEST_F(HeaderFiles, TextsTypedAreTextsSaved) {
     support::typeText(m_form.historyText, "Made");
     save(image, file("saved.tif"));
 
-    const std::string info = run("tiffinfo " + file("saved.tif"));
+    const std::string info = run("tiffinfo saved.tif");
     EXPECT_NE(info.find("Artist: Ada\n"), std::string::npos) << info;
     EXPECT_NE(info.find("ImageDescription: greyramp\n"), std::string::npos) << info;
     const CImage again = CImageFile::Read(file("saved.tif"));

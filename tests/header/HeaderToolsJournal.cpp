@@ -1,9 +1,14 @@
 #include "HeaderToolsJournal.h"
 
-#include <dlfcn.h>
-#include <ruqlib2image/COrunHeaderTools.h>
+#include "JournalledTools.h"
+
+#include <HiddenFunction.h>
+#include <ruqlib2core/CValueString.h>
 #include <sstream>
 #include <utility>
+
+using namespace TEVU;
+using support::Hidden;
 
 namespace {
 
@@ -20,18 +25,40 @@ std::string withText(const char* name, const char* text, unsigned int length) {
     return std::string(name) + '(' + (text ? std::string(text, length) : std::string()) + ')';
 }
 
-/// Calls the tool of the image library, which the one of that name in this program hides. What it
-/// calls in turn is its own affair.
-template <class Result, class... Parameters, class... Arguments>
-Result forward(Result (*)(Parameters...), const char* symbol, Arguments&&... arguments) {
-    const bool bOuter = std::exchange(s_bInsideATool, true);
-    struct Leave {
-        bool bOuter;
-        ~Leave() { s_bInsideATool = bOuter; }
-    } leave{bOuter};
-    auto* tool = reinterpret_cast<Result (*)(Parameters...)>(dlsym(RTLD_NEXT, symbol));
-    return tool(std::forward<Arguments>(arguments)...);
-}
+/// While it lives, what the tools call in turn is their own affair.
+class InsideATool {
+public:
+    InsideATool() : m_bOuter(std::exchange(s_bInsideATool, true)) {}
+    InsideATool(const InsideATool&) = delete;
+    InsideATool& operator=(const InsideATool&) = delete;
+    ~InsideATool() { s_bInsideATool = m_bOuter; }
+
+private:
+    bool m_bOuter;
+};
+
+const Hidden s_getSpacing("_ZN4TEVU16COrunHeaderTools10GetSpacingERKNS_6IImageERdS4_S4_",
+                          &journal::GetSpacing);
+const Hidden s_setSpacing("_ZN4TEVU16COrunHeaderTools10SetSpacingERNS_6IImageEddd",
+                          &journal::SetSpacing);
+const Hidden s_getCreator("_ZN4TEVU16COrunHeaderTools10GetCreatorERKNS_6IImageE"
+                          "RNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE",
+                          &journal::GetCreator);
+const Hidden s_setCreator("_ZN4TEVU16COrunHeaderTools10SetCreatorERNS_6IImageEPKcj",
+                          &journal::SetCreator);
+const Hidden s_getDescription("_ZN4TEVU16COrunHeaderTools14GetDescriptionERKNS_6IImageE"
+                              "RNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE",
+                              &journal::GetDescription);
+const Hidden s_setDescription("_ZN4TEVU16COrunHeaderTools14SetDescriptionERNS_6IImageEPKcj",
+                              &journal::SetDescription);
+const Hidden s_getHistory("_ZN4TEVU16COrunHeaderTools10GetHistoryERKNS_6IImageE"
+                          "RNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE",
+                          &journal::GetHistory);
+const Hidden s_replaceHistory("_ZN4TEVU16COrunHeaderTools14ReplaceHistoryERNS_6IImageEPKcj",
+                              &journal::ReplaceHistory);
+const Hidden s_addToHistory("_ZN4TEVU16COrunHeaderTools12AddToHistoryERNS_6IImageERKNS_12"
+                            "CValueStringE",
+                            &journal::AddToHistory);
 
 } // namespace
 
@@ -52,75 +79,66 @@ void HeaderToolsJournal::failGetSpacing(double left) {
     m_dLeftBehind = left;
 }
 
-// A program's own definition of a function goes before that of the shared library, for all callers.
-// The symbols are the compiler's names of the functions they stand in.
-namespace TEVU {
+namespace journal {
 
-bool COrunHeaderTools::GetSpacing(const IImage& image, double& x, double& y, double& z) {
+bool GetSpacing(const IImage& image, double& x, double& y, double& z) {
     note("GetSpacing");
     if (s_journal && s_journal->m_bGetSpacingFails) {
         x = y = z = s_journal->m_dLeftBehind;
         return false;
     }
-    return forward(&GetSpacing, "_ZN4TEVU16COrunHeaderTools10GetSpacingERKNS_6IImageERdS4_S4_",
-                   image, x, y, z);
+    const InsideATool inside;
+    return s_getSpacing(image, x, y, z);
 }
 
-void COrunHeaderTools::SetSpacing(IImage& image, double x, double y, double z) {
+void SetSpacing(IImage& image, double x, double y, double z) {
     std::ostringstream call;
     call << "SetSpacing(" << x << ',' << y << ',' << z << ')';
     note(call.str());
-    forward(&SetSpacing, "_ZN4TEVU16COrunHeaderTools10SetSpacingERNS_6IImageEddd", image, x, y, z);
+    const InsideATool inside;
+    s_setSpacing(image, x, y, z);
 }
 
-bool COrunHeaderTools::GetCreator(const IImage& image, std::string& creator) {
+bool GetCreator(const IImage& image, std::string& creator) {
     note("GetCreator");
-    return forward(&GetCreator,
-                   "_ZN4TEVU16COrunHeaderTools10GetCreatorERKNS_6IImageE"
-                   "RNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE",
-                   image, creator);
+    const InsideATool inside;
+    return s_getCreator(image, creator);
 }
 
-void COrunHeaderTools::SetCreator(IImage& image, const char* text, unsigned int length) {
+void SetCreator(IImage& image, const char* text, unsigned int length) {
     note(withText("SetCreator", text, length));
-    forward(&SetCreator, "_ZN4TEVU16COrunHeaderTools10SetCreatorERNS_6IImageEPKcj", image, text,
-            length);
+    const InsideATool inside;
+    s_setCreator(image, text, length);
 }
 
-bool COrunHeaderTools::GetDescription(const IImage& image, std::string& description) {
+bool GetDescription(const IImage& image, std::string& description) {
     note("GetDescription");
-    return forward(&GetDescription,
-                   "_ZN4TEVU16COrunHeaderTools14GetDescriptionERKNS_6IImageE"
-                   "RNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE",
-                   image, description);
+    const InsideATool inside;
+    return s_getDescription(image, description);
 }
 
-void COrunHeaderTools::SetDescription(IImage& image, const char* text, unsigned int length) {
+void SetDescription(IImage& image, const char* text, unsigned int length) {
     note(withText("SetDescription", text, length));
-    forward(&SetDescription, "_ZN4TEVU16COrunHeaderTools14SetDescriptionERNS_6IImageEPKcj", image,
-            text, length);
+    const InsideATool inside;
+    s_setDescription(image, text, length);
 }
 
-bool COrunHeaderTools::GetHistory(const IImage& image, std::string& history) {
+bool GetHistory(const IImage& image, std::string& history) {
     note("GetHistory");
-    return forward(&GetHistory,
-                   "_ZN4TEVU16COrunHeaderTools10GetHistoryERKNS_6IImageE"
-                   "RNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE",
-                   image, history);
+    const InsideATool inside;
+    return s_getHistory(image, history);
 }
 
-void COrunHeaderTools::ReplaceHistory(IImage& image, const char* text, unsigned int length) {
+void ReplaceHistory(IImage& image, const char* text, unsigned int length) {
     note(withText("ReplaceHistory", text, length));
-    forward(&ReplaceHistory, "_ZN4TEVU16COrunHeaderTools14ReplaceHistoryERNS_6IImageEPKcj", image,
-            text, length);
+    const InsideATool inside;
+    s_replaceHistory(image, text, length);
 }
 
-void COrunHeaderTools::AddToHistory(IImage& image, const CValueString& entry) {
+void AddToHistory(IImage& image, const CValueString& entry) {
     note("AddToHistory(" + entry.String() + ')');
-    forward(&AddToHistory,
-            "_ZN4TEVU16COrunHeaderTools12AddToHistoryERNS_6IImageERKNS_12"
-            "CValueStringE",
-            image, entry);
+    const InsideATool inside;
+    s_addToHistory(image, entry);
 }
 
-} // namespace TEVU
+} // namespace journal

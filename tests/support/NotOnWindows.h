@@ -3,8 +3,9 @@
 
 #include <gtest/gtest.h>
 
-/// At the top of a test that has nothing to test on Windows. All reasons stand here. What whole files of
-/// tests leave out there is in those named PosixTest; WindowsTest is their counterpart.
+/// At the top of a test that has nothing to test on Windows. All reasons stand here; "./test --windows"
+/// ends with the list of the tests that they hold back. What whole files of tests leave out there is in
+/// those named PosixTest; WindowsTest is their counterpart.
 #ifdef _WIN32
 #define NOT_ON_WINDOWS(reason) GTEST_SKIP() << support::reason
 #else
@@ -18,6 +19,10 @@ constexpr const char* noPermissions =
     "WindowsTest do the same with the read-only attribute";
 constexpr const char* noLinks =
     "Not on Windows: symbolic links need a privilege there, and the compiler's library makes none";
+constexpr const char* noSuchNames = "Not on Windows: such a name cannot be given to a file there";
+constexpr const char* noClosedPlace =
+    "Not on Windows: the place that nobody may write to is one of other systems; the tests named "
+    "WindowsTest have names that no file can have";
 constexpr const char* noPipes = "Not on Windows: no pipe can stand in the place of a file there";
 constexpr const char* noJpeg = "Not on Windows: libtiff is built without JPEG there, because "
                                "Debian has no libjpeg for Windows";

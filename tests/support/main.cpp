@@ -1,30 +1,18 @@
+#include "ChildProcess.h"
 #include "Display.h"
+#include "System.h"
 
-#include <csignal>
-#include <cstdio>
-#include <cstdlib>
-#include <execinfo.h>
 #include <gtest/gtest.h>
 #include <qapplication.h>
-#include <unistd.h>
 #include <vector>
 
 namespace {
 
 const unsigned c_patience = RUQGUI_PATIENCE; // seconds
 
-void tellWhereItHangs(int) {
-    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-    std::fprintf(stderr, "No end after %u seconds: %s.%s hangs here:\n", c_patience,
-                 test ? test->test_suite_name() : "", test ? test->name() : "");
-    void* frames[100];
-    backtrace_symbols_fd(frames, backtrace(frames, 100), STDERR_FILENO);
-    std::abort();
-}
-
 /// Each test has the patience for itself, however many run in this process.
 class CPatience : public testing::EmptyTestEventListener {
-    void OnTestStart(const testing::TestInfo&) override { alarm(c_patience); }
+    void OnTestStart(const testing::TestInfo&) override { support::giveUpAfter(c_patience); }
 };
 
 } // namespace
@@ -35,8 +23,7 @@ int main(int argc, char** argv) {
     if (GTEST_FLAG_GET(list_tests))
         return RUN_ALL_TESTS();
 
-    std::signal(SIGALRM, tellWhereItHangs);
-    alarm(c_patience);
+    support::giveUpAfter(c_patience);
     testing::UnitTest::GetInstance()->listeners().Append(new CPatience); // deleted by the list
     support::prepareDisplay();
     QApplication::setDesktopSettingsAware(false);
@@ -46,5 +33,7 @@ int main(int argc, char** argv) {
     arguments.push_back(nullptr);
     const QApplication application(count, arguments.data());
     QApplication::setStyle("windows"); // set earlier, nobody would delete it
+    if (support::ChildProcess::isOne())
+        return support::ChildProcess::runItsTask();
     return RUN_ALL_TESTS();
 }

@@ -1,3 +1,4 @@
+#include <NotOnWindows.h>
 #include <qt3/FileDialog.h>
 
 #include "Dialogs.h"
@@ -191,7 +192,7 @@ TEST_P(FileDialogWays, ATypedNameIsInTheFolderShown) {
 
 TEST_P(FileDialogWays, BeginInTheWorkingDirectoryWithoutAStartPath) {
     ModalDriver driver;
-    driver.expectFileDialog(shows(std::filesystem::current_path(), "")).cancel();
+    driver.expectFileDialog(shows(std::filesystem::current_path().generic_string(), "")).cancel();
 
     run("");
 }
@@ -215,7 +216,7 @@ TEST_P(FileDialogWays, WithoutAStartPathShowTheWorkingDirectoryAfterAFolderThatH
     driver.expectMessage({"Error"}).enter(); // the toolkit's own
     driver.expectMessage({"Error"}).enter();
 #endif
-    driver.expectFileDialog(shows(std::filesystem::current_path(), "")).cancel();
+    driver.expectFileDialog(shows(std::filesystem::current_path().generic_string(), "")).cancel();
 
     run("");
 }
@@ -253,6 +254,7 @@ TEST_P(FileDialogWays, ShareTheFolderLastUsed) {
 }
 
 TEST_P(FileDialogWays, LinkToAFileIsReturnedAsTheLink) {
+    NOT_ON_WINDOWS(noLinks);
     m_dir.makeLink("link.tif", m_dir.writeFile("scan.tif"));
     ModalDriver driver;
     driver.expectFileDialog({}).choose("link.tif");
@@ -261,6 +263,7 @@ TEST_P(FileDialogWays, LinkToAFileIsReturnedAsTheLink) {
 }
 
 TEST_P(FileDialogWays, StartFolderThatIsALinkIsResolved) {
+    NOT_ON_WINDOWS(noLinks);
     const std::string folder = m_dir.makeFolder("real");
     const std::string path = m_dir.writeFile("real/scan.tif");
     const std::string link = m_dir.makeLink("link", folder);
@@ -411,6 +414,7 @@ TEST(FileDialog, SavingKeepsCharactersBeyondAscii) {
 }
 
 TEST(FileDialog, LinkedFolderInATypedPathIsResolved) {
+    NOT_ON_WINDOWS(noLinks);
     const support::TempDir dir;
     dir.makeFolder("real");
     const std::string path = dir.writeFile("real/scan.tif");

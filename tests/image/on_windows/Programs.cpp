@@ -52,8 +52,8 @@ Result runInShell(const std::string& folder, const std::string& command) {
     const std::string here = outside(dir.path());
     if (here.empty())
         return {-1, "", "the programs that read what we write are run under wine only"};
-    dir.writeFile("script", "cd '" + here + "'\n( cd '" + outside(folder) + "' && " + command +
-                                " ) >out 2>err\necho $? >code\nmv code done\n");
+    dir.writeFile("script", "export LC_ALL=C; cd '" + here + "'\n( cd '" + outside(folder) +
+                                "' && " + command + " ) >out 2>err\necho $? >code\nmv code done\n");
     if (!start(here + "/script"))
         return {-1, "", "the shell could not be started"};
     waitForFile(dir, "done");

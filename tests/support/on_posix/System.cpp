@@ -1,10 +1,28 @@
 #include "System.h"
 
+#include <csignal>
+#include <cstdio>
 #include <cstdlib>
+#include <execinfo.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 namespace support {
+
+namespace {
+
+unsigned s_patience = 0;
+
+void tellWhereItHangs(int) {
+    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
+    std::fprintf(stderr, "No end after %u seconds: %s.%s hangs here:\n", s_patience,
+                 test ? test->test_suite_name() : "", test ? test->name() : "");
+    void* frames[100];
+    backtrace_symbols_fd(frames, backtrace(frames, 100), STDERR_FILENO);
+    std::abort();
+}
+
+} // namespace
 
 void setVariable(const char* name, const std::string& value) {
     setenv(name, value.c_str(), true);
@@ -23,6 +41,12 @@ void giveAway(const std::string& path, unsigned user) {
     if (geteuid() != 0)
         return;
     EXPECT_EQ(chown(path.c_str(), user, user), 0) << path;
+}
+
+void giveUpAfter(unsigned seconds) {
+    s_patience = seconds;
+    std::signal(SIGALRM, tellWhereItHangs);
+    alarm(seconds);
 }
 
 } // namespace support

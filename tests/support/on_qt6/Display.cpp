@@ -1,5 +1,7 @@
 #include "Display.h"
 
+#include "System.h"
+
 #include <QApplication>
 #include <QProxyStyle>
 #include <cstdlib>
@@ -31,7 +33,8 @@ private:
 } // namespace
 
 void prepareDisplay() {
-    setenv("QT_QPA_PLATFORM", "offscreen", false);
+    if (!std::getenv("QT_QPA_PLATFORM"))
+        setVariable("QT_QPA_PLATFORM", "offscreen");
 }
 
 void addDisplayOptions(std::vector<char*>&) {}
