@@ -65,7 +65,7 @@ void Gallery::showPage(const std::string& title) {
 }
 
 void Gallery::takeScreenshots(const std::string& folder) {
-    std::filesystem::create_directories(folder);
+    std::filesystem::create_directories(std::filesystem::u8path(folder));
     for (std::size_t page = 0; page < m_pages.size(); ++page) {
         m_pTabs->setCurrentPage(static_cast<int>(page));
         qApp->processEvents();

@@ -1,6 +1,7 @@
 #include "Gallery.h"
 #include "Options.h"
 #include "Page.h"
+#include "Process.h"
 
 #include <exception>
 #include <iostream>
@@ -8,8 +9,19 @@
 
 namespace {
 
+std::vector<char*> pointersTo(std::vector<std::string>& words) {
+    std::vector<char*> pointers;
+    for (std::string& word : words)
+        pointers.push_back(word.data());
+    return pointers;
+}
+
 // The toolkit takes its own options, such as -style, out of the arguments.
-int runGallery(int argc, char** argv) {
+int runGallery(std::vector<std::string>& commandLine) {
+    std::vector<char*> arguments = pointersTo(commandLine);
+    int argc = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    char** argv = arguments.data();
     qt3::Application application(argc, argv);
     const Options options = parseOptions({argv + 1, argv + argc});
     Gallery gallery(options);
@@ -26,12 +38,14 @@ int runGallery(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (asksForHelp({argv + 1, argv + argc})) {
+    process::useConsoleOfTheCaller();
+    std::vector<std::string> commandLine = process::commandLine(argc, argv);
+    if (asksForHelp({commandLine.begin() + 1, commandLine.end()})) {
         std::cout << usage(pageTitles());
         return 0;
     }
     try {
-        return runGallery(argc, argv);
+        return runGallery(commandLine);
     } catch (const std::exception& error) {
         std::cerr << "gallery: " << error.what() << std::endl;
         return 1;
