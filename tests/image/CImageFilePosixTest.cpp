@@ -82,7 +82,7 @@ TEST_F(CImageFilePosixTest, FullDiskLeavesTheOldFileAsItWas) {
 
 // What a letter is depends on the locale. What a line for programs begins with does not.
 TEST_F(CImageFilePosixTest, LineForPeopleBeginsAtTheSamePlaceInEveryLocale) {
-    const std::string line = "Gr\xF6\xDFe=3";
+    const std::string line = "Gr\366\337e=3";
     dir.writeFile("description", "ImageJ=1.53t\nunit=mm\n" + line);
     run("convert -size 4x3 gradient: a.tif && tiffset -sf 270 description a.tif");
     const support::OtherLocale german("de_DE.ISO-8859-1");
