@@ -1,6 +1,7 @@
 #include <qt3/TextEdit.h>
 
 #include "Events.h"
+#include "Looks.h"
 #include "Recorder.h"
 #include "Specimens.h"
 
@@ -71,6 +72,38 @@ TEST(TextEditTest, SettingTheSameTextIsToldToo) {
     recorder.tap(&edit, "textChanged()", "edit");
     edit.setText(fromAscii("same"));
     EXPECT_EQ(recorder.take(), (Lines{"edit.textChanged()"}));
+}
+
+TEST(TextEditTest, SettingTheSameTextLeavesTheCursorOfAReadOnlyEdit) {
+    qt3::TextEdit edit(nullptr);
+    support::show(&edit);
+    support::giveFocus(&edit);
+    edit.setText("abc");
+    support::sendKey(&edit, Qt::Key_Right, Modifier::None, "");
+    edit.setReadOnly(true);
+    support::Recorder recorder;
+    recorder.tap(&edit, "textChanged()", "edit");
+
+    edit.setText("abc");
+    EXPECT_EQ(recorder.take(), Lines());
+    EXPECT_EQ(support::cursorOf(&edit), 1);
+
+    edit.setText("abd");
+    EXPECT_EQ(recorder.take(), Lines{"edit.textChanged()"});
+    EXPECT_EQ(support::cursorOf(&edit), 0);
+}
+
+TEST(TextEditTest, SettingTheSameTextMovesTheCursorWhereTheUserHasEdited) {
+    qt3::TextEdit edit(nullptr);
+    support::show(&edit);
+    support::giveFocus(&edit);
+    support::sendKey(&edit, Qt::Key_A, Modifier::None, "a");
+    edit.setReadOnly(true);
+    ASSERT_EQ(support::cursorOf(&edit), 1);
+
+    edit.setText("a");
+
+    EXPECT_EQ(support::cursorOf(&edit), 0);
 }
 
 TEST(TextEditTest, TypedMarkupStaysAsTyped) {

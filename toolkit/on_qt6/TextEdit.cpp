@@ -44,6 +44,11 @@ QString TextEdit::text() const {
     return text;
 }
 
+void TextEdit::setText(const QString& text) {
+    if (!isReadOnly() || document()->isModified() || this->text() != text)
+        setPlainText(text);
+}
+
 void TextEdit::paste() {
     const bool bOuter = std::exchange(m_bInserting, true);
     if (hasNothingToPaste()) { // with which Qt 6.4 can crash

@@ -22,8 +22,9 @@ public:
     /// The plain text with "\n" between the lines.
     QString text() const;
 
-    /// Always emits textChanged(); the cursor goes to the start and nothing can be undone.
-    void setText(const QString& text) { setPlainText(text); }
+    /// Emits textChanged(); the cursor goes to the start and nothing can be undone. A read-only edit that
+    /// has this very text already, which nobody has edited since it was set, stays as it is.
+    void setText(const QString& text);
 
     virtual void paste();
 
