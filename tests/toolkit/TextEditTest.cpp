@@ -106,6 +106,25 @@ TEST(TextEditTest, SettingTheSameTextMovesTheCursorWhereTheUserHasEdited) {
     EXPECT_EQ(support::cursorOf(&edit), 0);
 }
 
+TEST(TextEditTest, KeyThatFindsNothingToDeleteIsAnEditToo) {
+    for (const int key : {Qt::Key_Backspace, Qt::Key_Delete}) {
+        qt3::TextEdit edit(nullptr);
+        support::show(&edit);
+        support::giveFocus(&edit);
+        edit.setText("a");
+        if (key == Qt::Key_Delete)
+            support::sendKey(&edit, Qt::Key_Right, Modifier::None, "");
+        support::sendKey(&edit, key, Modifier::None, key == Qt::Key_Delete ? "\x7f" : "\b");
+        support::sendKey(&edit, Qt::Key_Right, Modifier::None, "");
+        edit.setReadOnly(true);
+        ASSERT_EQ(support::cursorOf(&edit), 1);
+
+        edit.setText("a");
+
+        EXPECT_EQ(support::cursorOf(&edit), 0) << key;
+    }
+}
+
 TEST(TextEditTest, TypedMarkupStaysAsTyped) {
     qt3::TextEdit edit(nullptr);
     support::show(&edit);

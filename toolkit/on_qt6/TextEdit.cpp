@@ -72,6 +72,8 @@ void TextEdit::keyPressEvent(QKeyEvent* event) {
         paste(); // the toolkit would not call it when the clipboard is empty
     } else {
         Bridged<QTextEdit>::keyPressEvent(event);
+        if (!isReadOnly() && (event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete))
+            document()->setModified(true); // also where there was nothing to delete
     }
 }
 
