@@ -54,12 +54,15 @@ protected:
         });
     }
 
-    // Copies come of the original and go to it: the others are hidden, and learn of a size when the
-    // toolkit likes.
+    // Copies come of the original and go to it: the others are hidden, also when their place is shown, and
+    // learn of a size when the toolkit likes.
     void addCopyActions() {
         action("copy", 1, {}, [this](const Operation&) {
-            if (first() && m_vAll.size() <= 2)
-                adopt(new W(*first()), "copy" + std::to_string(m_vAll.size()));
+            if (!first() || m_vAll.size() > 2)
+                return;
+            W* const copy = new W(*first());
+            copy->hide();
+            adopt(copy, "copy" + std::to_string(m_vAll.size()));
         });
         onOne("assign", 1, {Taste::flag()}, [this](W& one, const Operation& operation) {
             W* const original = first();
