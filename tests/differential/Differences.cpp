@@ -46,6 +46,10 @@ const std::vector<Difference>& differences() {
         {"Where Left and Right go in a text edit with a selection",
          "feel of the host's control: Qt 3.3 goes on from the cursor, Qt 6 to the selection's end",
          "not typed there"},
+        {"What comes of a selection of nothing in a text edit, made by Shift with a key where the "
+         "cursor "
+         "cannot go",
+         "Qt 3.3 keeps it, and spoils the next paste with it", "Shift is not held with such keys"},
         {"Text pasted or typed into a hidden text edit",
          "the plain one of Qt 3.3 crashes when it is shown after its paragraphs have gone",
          "done while it is visible only"},

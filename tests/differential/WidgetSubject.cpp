@@ -246,7 +246,7 @@ void WidgetSubject::addKeyActions(const std::vector<std::string>& keys) {
 }
 
 void WidgetSubject::typeKey(const std::string& name, Modifier modifier) {
-    if (name == "Delete" || name == "Insert")
+    if (name == "Delete" || name == "Insert" || (modifier == Modifier::Shift && !takesShift(name)))
         modifier = Modifier::None;
     QWidget* const focused = m_stage.focusWidget();
     const std::string who = m_stage.focus();

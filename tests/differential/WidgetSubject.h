@@ -53,6 +53,8 @@ protected:
 
     /// Whether the widget that has the focus is tried with that key.
     virtual bool takesKey(const std::string& /*name*/) { return true; }
+    /// Whether it is tried with that key while Shift is held.
+    virtual bool takesShift(const std::string& /*name*/) { return true; }
 
     /// Between these sizes, where they are even, the styles and layouts of both toolkits agree.
     virtual QSize leastSize() { return QSize(120, 24); }

@@ -45,6 +45,8 @@ protected:
     void make(const Operation& beginning) override;
     std::string state() override;
     bool takesKey(const std::string& name) override;
+    /// With a key that moves the cursor, nothing may get selected, and stay so.
+    bool takesShift(const std::string& name) override { return name.size() == 1; }
     QSize greatestSize() override { return QSize(380, 200); }
 
 private:
