@@ -67,7 +67,7 @@ protected:
         onOne("assign", 1, {Taste::flag()}, [this](W& one, const Operation& operation) {
             W* const original = first();
             if (original && operation.flag(0) && original->isVisible())
-                *original = one;
+                m_stage.withFocusRescued([&] { *original = one; }); // which may be disabled
             else if (original && !operation.flag(0))
                 one = *original;
         });
