@@ -15,13 +15,24 @@ namespace DynamicLibrary {
 const char* const c_sEnding = ".dll";
 const char c_cPathSeparator = ';';
 
+namespace {
+
+/// What the plug-in needs is looked for beside the plug-in instead of beside the program; and if it is not
+/// all there, as for every library.
+HMODULE loadWithWhatItNeeds(const std::wstring& path) {
+    const HMODULE library = ::LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    if (library || ::GetLastError() != ERROR_MOD_NOT_FOUND)
+        return library;
+    return ::LoadLibraryExW(path.c_str(), nullptr, 0);
+}
+
+} // namespace
+
 void* load(const std::string& path) {
     std::string native = path;
     std::replace(native.begin(), native.end(), '/',
                  '\\'); // the loader insists on its own separator
-    // With this flag, what the plug-in needs is looked for beside the plug-in.
-    HMODULE library =
-        ::LoadLibraryExW(toWide(native).c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    HMODULE library = loadWithWhatItNeeds(toWide(native));
     if (!library) {
         const int error = static_cast<int>(::GetLastError());
         throw CException("GetNewPluginInstance",

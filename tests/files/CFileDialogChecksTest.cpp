@@ -5,7 +5,7 @@
 
 #include <Events.h>
 #include <OrdinaryUser.h>
-#include <chrono>
+#include <System.h>
 #include <filesystem>
 #include <ostream>
 #include <qwidget.h>
@@ -119,8 +119,8 @@ TEST_F(CFileDialogWritableTest, NewNameIsTriedAndLeavesNothingBehind) {
 
 TEST_F(CFileDialogWritableTest, NewNameIsReallyTriedInItsFolder) {
     dir.makeFolder("results");
-    const fs::file_time_type longAgo = fs::file_time_type::clock::now() - std::chrono::hours(48);
-    fs::last_write_time(dir.path("results"), longAgo);
+    support::makeOld(dir.path("results"));
+    const fs::file_time_type longAgo = fs::last_write_time(dir.path("results"));
 
     EXPECT_TRUE(CFileDialog::IsFileWritable(toText(dir.path("results/new.tif")), nullptr, true));
 
@@ -129,9 +129,8 @@ TEST_F(CFileDialogWritableTest, NewNameIsReallyTriedInItsFolder) {
 
 TEST_F(CFileDialogWritableTest, ExistingFileIsNotTouched) {
     makeFile("results/old.tif");
-    const fs::file_time_type longAgo = fs::file_time_type::clock::now() - std::chrono::hours(48);
-    fs::last_write_time(dir.path("results/old.tif"), longAgo);
-    fs::last_write_time(dir.path("results"), longAgo);
+    support::makeOld(dir.path("results/old.tif"));
+    support::makeOld(dir.path("results"));
     const fs::file_time_type ofFile = fs::last_write_time(dir.path("results/old.tif"));
     const fs::file_time_type ofFolder = fs::last_write_time(dir.path("results"));
 

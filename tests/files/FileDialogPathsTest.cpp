@@ -21,9 +21,14 @@ using flow::Choice;
 using flow::Lines;
 using flow::Series;
 
-const std::string c_home = "/home/me";
-const std::string c_kept = "/data/kept";
-const std::string c_gone = "/data/gone"; // files are chosen there too, but it is not there
+#ifdef _WIN32
+const std::string c_root = "C:/"; // without a drive, a path is a relative one there
+#else
+const std::string c_root = "/";
+#endif
+const std::string c_home = c_root + "home/me";
+const std::string c_kept = c_root + "data/kept";
+const std::string c_gone = c_root + "data/gone"; // files are chosen there too, but it is not there
 
 class ScriptedStage : public flow::Stage, public ScriptedUser {
 public:
@@ -147,7 +152,8 @@ protected:
 class SavePathsTest : public FileDialogPathsTest {
 protected:
     void saveAll(const std::vector<Series>& all, bool append) {
-        static const char* const proposals[] = {"", "scan.tif", "/data/kept/scan", "/none/scan"};
+        static const std::string proposals[] = {"", "scan.tif", c_kept + "/scan",
+                                                c_root + "none/scan"};
         runAll(all, [this, append](const Series& series) {
             runs.save(proposals[runs.count() % 4], append, series);
         });

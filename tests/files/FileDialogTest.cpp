@@ -61,10 +61,25 @@ std::string shortKey(const TEVU::CValue_Key& key) {
     return whole.rfind(c_keys, 0) == 0 ? whole.substr(std::string(c_keys).size()) : whole;
 }
 
+#ifdef _WIN32
+/// Programs start slowly there, so tests share a process where they can, and with it the registry object, which
+/// keeps to its first file.
+void beginWithAnEmptyRegistry(const support::TempDir&) {
+    static const support::TempDir s_dir;
+    support::setVariable("RUQ_REGISTRY", s_dir.path("registry.json"));
+    for (const TEVU::CValue_Key& key : CRegistry::Obj().Keys())
+        CRegistry::Obj().RemoveEntry(key);
+}
+#else
+void beginWithAnEmptyRegistry(const support::TempDir& dir) {
+    support::setVariable("RUQ_REGISTRY", dir.path("registry.json"));
+}
+#endif
+
 } // namespace
 
 FileDialogTest::FileDialogTest() {
-    support::setVariable("RUQ_REGISTRY", dir.path("registry.json"));
+    beginWithAnEmptyRegistry(dir);
     support::setVariable("HOME", dir.makeFolder("home"));
     fs::current_path(dir.makeFolder("working folder"));
 }

@@ -48,7 +48,15 @@ void FlowRuns::expectState() {
     ++m_nRuns;
 }
 
+// Under wine it is the one of the system around it.
 InMemory::InMemory() {
-    if (access("/dev/shm", W_OK) == 0)
-        support::setVariable("TMPDIR", "/dev/shm");
+#ifdef _WIN32
+    const char* const variable = "TMP";
+    const char* const folder = "Z:/dev/shm";
+#else
+    const char* const variable = "TMPDIR";
+    const char* const folder = "/dev/shm";
+#endif
+    if (access(folder, W_OK) == 0)
+        support::setVariable(variable, folder);
 }

@@ -11,6 +11,10 @@ void prepareDisplay();
 /// Adds to the application object's arguments what keeps windows cheap.
 void addDisplayOptions(std::vector<char*>& arguments);
 
+/// The style in which widgets are tested, as the toolkit's factory names it; called once there is an application
+/// object.
+void setTestedStyle();
+
 /// From here on, each icon that the style gives to dialogs is decoded once, not for every dialog: on Qt 6
 /// that is a third of what a file dialog costs.
 void decodeIconsOnce();

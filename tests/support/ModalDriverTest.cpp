@@ -2,6 +2,7 @@
 
 #include "Events.h"
 
+#include <filesystem>
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 #include <qapplication.h>
@@ -9,6 +10,7 @@
 #include <qt3/ColorDialog.h>
 #include <qt3/FileDialog.h>
 #include <qt3/MessageBox.h>
+#include <qt3/Text.h>
 #include <qwidget.h>
 
 using qt3::MessageBox;
@@ -27,9 +29,15 @@ int tell() {
     return MessageBox::information(nullptr, "Note", "Done.", MessageBox::Ok);
 }
 
+/// One that there is everywhere.
+std::string folder() {
+    return std::filesystem::canonical(std::filesystem::temp_directory_path()).generic_string();
+}
+
 QString askForFile(QWidget* parent = nullptr) {
-    return qt3::FileDialog::getSaveFileName("/usr/it.png", "Images (*.png);;All (*)", parent,
-                                            "savedialog", "Specify");
+    return qt3::FileDialog::getSaveFileName(qt3::fromAscii(folder() + "/it.png"),
+                                            "Images (*.png);;All (*)", parent, "savedialog",
+                                            "Specify");
 }
 
 const support::Message c_retry{"Caption", "The text:\n%1", {"Cancel", "Retry"}, "Retry", "Cancel"};
@@ -67,7 +75,7 @@ TEST(ModalDriver, LogsEachDialogWithItsAnswer) {
     ModalDriver driver;
     driver.expectMessage({}).answer("Retry");
     driver.expectMessage({}).escape();
-    driver.expectFileDialog({}).choose("/usr/other.png");
+    driver.expectFileDialog({}).choose(folder() + "/other.png");
     driver.expectColorDialog({}).accept(QColor(1, 2, 3));
 
     askRetry();
@@ -75,25 +83,25 @@ TEST(ModalDriver, LogsEachDialogWithItsAnswer) {
     askForFile();
     qt3::ColorDialog::getColor(QColor(255, 255, 255), nullptr, "Choose color");
 
-    EXPECT_EQ(driver.log(),
-              (Lines{"warning 'Caption' 'The text:\\n%1' [Cancel, Retry] -> Retry",
-                     "information 'Note' 'Done.' [OK] -> escape",
-                     "save 'savedialog' 'Specify' in '/usr' with 'it.png' -> '/usr/other.png'",
-                     "color 'Choose color' '#ffffff' -> '#010203'"}));
+    EXPECT_EQ(driver.log(), (Lines{"warning 'Caption' 'The text:\\n%1' [Cancel, Retry] -> Retry",
+                                   "information 'Note' 'Done.' [OK] -> escape",
+                                   "save 'savedialog' 'Specify' in '" + folder() +
+                                       "' with 'it.png' -> '" + folder() + "/other.png'",
+                                   "color 'Choose color' '#ffffff' -> '#010203'"}));
 }
 
 TEST(ModalDriver, FillsInTheFileDialog) {
     ModalDriver driver;
     const support::FileRequest expected{
-        "savedialog", "Specify", "/usr", "it.png", {"Images (*.png)", "All (*)"}, "save"};
-    driver.expectFileDialog(expected).choose("/usr/new.png");
+        "savedialog", "Specify", folder(), "it.png", {"Images (*.png)", "All (*)"}, "save"};
+    driver.expectFileDialog(expected).choose(folder() + "/new.png");
     driver.expectFileDialog(expected).accept();
     driver.expectFileDialog(expected).cancel();
     driver.expectFileDialog(expected).escape();
     driver.expectFileDialog(expected).close();
 
-    EXPECT_EQ(support::text(askForFile()), "/usr/new.png");
-    EXPECT_EQ(support::text(askForFile()), "/usr/it.png");
+    EXPECT_EQ(support::text(askForFile()), folder() + "/new.png");
+    EXPECT_EQ(support::text(askForFile()), folder() + "/it.png");
     EXPECT_TRUE(askForFile().isEmpty());
     EXPECT_TRUE(askForFile().isEmpty());
     EXPECT_TRUE(askForFile().isEmpty());
@@ -242,7 +250,7 @@ TEST(ModalDriver, AnotherKindOfDialogFailsTheTest) {
 
 TEST(ModalDriver, WrongFileDialogFailsTheTest) {
     ModalDriver driver;
-    driver.expectFileDialog({"savedialog", "Specify", "/usr", "other.png"}).cancel();
+    driver.expectFileDialog({"savedialog", "Specify", folder(), "other.png"}).cancel();
 
     EXPECT_NONFATAL_FAILURE(askForFile(), "the file name is 'it.png', not 'other.png'");
 }

@@ -2,6 +2,7 @@
 #define RUQGUI_TESTS_SUPPORT_NOTONWINDOWS_H
 
 #include <gtest/gtest.h>
+#include <string>
 
 /// At the top of a test that has nothing to test on Windows. All reasons stand here; "./test --windows"
 /// ends with the list of the tests that they hold back. What whole files of tests leave out there is in
@@ -26,6 +27,16 @@ constexpr const char* noClosedPlace =
 constexpr const char* noPipes = "Not on Windows: no pipe can stand in the place of a file there";
 constexpr const char* noJpeg = "Not on Windows: libtiff is built without JPEG there, because "
                                "Debian has no libjpeg for Windows";
+
+/// Whether a file can have this name: on Windows some signs cannot be in it, others not at its end.
+inline bool isPossibleName(const std::string& name) {
+#ifdef _WIN32
+    return name.find_first_of("<>:\"|?*\\") == std::string::npos &&
+           name.find_last_not_of(". ") + 1 == name.size();
+#else
+    return !name.empty();
+#endif
+}
 
 } // namespace support
 

@@ -18,6 +18,9 @@ std::string makeFreshFolder(const std::string& beginning);
 /// such users: nothing happens.
 void giveAway(const std::string& path, unsigned user);
 
+/// Gives a file or folder the times of two days ago.
+void makeOld(const std::string& path);
+
 /// Ends the process, with the name of the test that hangs, when it still runs after so many seconds. A later call
 /// begins to count anew.
 void giveUpAfter(unsigned seconds);

@@ -44,13 +44,13 @@ TempDir::~TempDir() {
 
 std::string TempDir::makeFolder(const std::string& name) const {
     std::error_code error;
-    fs::create_directories(path(name), error);
+    fs::create_directories(fs::u8path(path(name)), error);
     EXPECT_FALSE(error) << path(name) << ": " << error.message();
     return path(name);
 }
 
 std::string TempDir::writeFile(const std::string& name, const std::string& content) const {
-    std::ofstream file(path(name), std::ios::binary);
+    std::ofstream file(fs::u8path(path(name)), std::ios::binary);
     file << content;
     file.close();
     EXPECT_TRUE(file) << path(name);
@@ -65,7 +65,7 @@ std::string TempDir::makeLink(const std::string& name, const std::string& target
 }
 
 std::string TempDir::read(const std::string& name) const {
-    const std::ifstream file(path(name), std::ios::binary);
+    const std::ifstream file(fs::u8path(path(name)), std::ios::binary);
     std::ostringstream content;
     if (file)
         content << file.rdbuf();
@@ -74,16 +74,16 @@ std::string TempDir::read(const std::string& name) const {
 
 bool TempDir::exists(const std::string& name) const {
     std::error_code error;
-    return fs::exists(path(name), error);
+    return fs::exists(fs::u8path(path(name)), error);
 }
 
 void TempDir::remove(const std::string& name) const {
-    removeAll(path(name));
+    removeAll(fs::u8path(path(name)));
 }
 
 void TempDir::setPermissions(const std::string& name, unsigned mode) const {
     std::error_code error;
-    fs::permissions(path(name), fs::perms(mode), error);
+    fs::permissions(fs::u8path(path(name)), fs::perms(mode), error);
     EXPECT_FALSE(error) << path(name) << ": " << error.message();
 }
 

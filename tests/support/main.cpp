@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
     int count = static_cast<int>(arguments.size());
     arguments.push_back(nullptr);
     const QApplication application(count, arguments.data());
-    QApplication::setStyle("windows"); // set earlier, nobody would delete it
+    support::setTestedStyle(); // set earlier, nobody would delete it
     if (support::ChildProcess::isOne())
         return support::ChildProcess::runItsTask();
     return RUN_ALL_TESTS();

@@ -13,6 +13,9 @@ namespace programs {
 
 namespace {
 
+const int c_pieces = 1200;
+const DWORD c_milliseconds = 50;
+
 using UnixName = char*(CDECL*)(const wchar_t*);
 
 /// The path as the system around wine names it; empty on Windows itself.
@@ -40,8 +43,11 @@ bool start(const std::string& script) {
 void waitForFile(const support::TempDir& dir, const std::string& name) {
     const HANDLE change =
         ::FindFirstChangeNotificationA(dir.path().c_str(), FALSE, FILE_NOTIFY_CHANGE_FILE_NAME);
-    while (!dir.exists(name) && ::WaitForSingleObject(change, 60000) == WAIT_OBJECT_0)
+    // Wine does not hear of everything that happens outside it: so the wait is cut into pieces.
+    for (int piece = 0; piece < c_pieces && !dir.exists(name); ++piece) {
+        ::WaitForSingleObject(change, c_milliseconds);
         ::FindNextChangeNotification(change);
+    }
     ::FindCloseChangeNotification(change);
 }
 

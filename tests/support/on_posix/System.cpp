@@ -1,9 +1,11 @@
 #include "System.h"
 
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <execinfo.h>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -41,6 +43,11 @@ void giveAway(const std::string& path, unsigned user) {
     if (geteuid() != 0)
         return;
     EXPECT_EQ(chown(path.c_str(), user, user), 0) << path;
+}
+
+void makeOld(const std::string& path) {
+    namespace fs = std::filesystem;
+    fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::hours(48));
 }
 
 void giveUpAfter(unsigned seconds) {

@@ -1,8 +1,11 @@
 #include "Display.h"
 
-#include <X11/Xlib.h>
 #include <chrono>
+#include <qapplication.h>
 #include <thread>
+
+// Behind the toolkit, whose words it defines as macros.
+#include <X11/Xlib.h>
 
 namespace support {
 
@@ -22,6 +25,10 @@ void prepareDisplay() {
 void addDisplayOptions(std::vector<char*>& arguments) {
     static char s_noInputMethod[] = "-noxim";
     arguments.push_back(s_noInputMethod);
+}
+
+void setTestedStyle() {
+    QApplication::setStyle("windows");
 }
 
 void decodeIconsOnce() {} // they are part of the program

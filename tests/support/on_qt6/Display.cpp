@@ -11,10 +11,25 @@ namespace support {
 
 namespace {
 
-/// The application's style, with the icons that it has given already.
-class IconsOnce : public QProxyStyle {
+const char* const c_style = "windows";
+
+class TestedStyle : public QProxyStyle {
 public:
     using QProxyStyle::QProxyStyle;
+
+#ifdef _WIN32
+    /// The width of scroll bars, and so that of handles, is the user's choice there; here it is the usual one.
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+        return metric == PM_ScrollBarExtent ? 16 : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+#endif
+};
+
+/// The application's style, with the icons that it has given already.
+class IconsOnce : public TestedStyle {
+public:
+    using TestedStyle::TestedStyle;
 
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
                        const QWidget* widget) const override {
@@ -39,8 +54,16 @@ void prepareDisplay() {
 
 void addDisplayOptions(std::vector<char*>&) {}
 
+void setTestedStyle() {
+#ifdef _WIN32
+    QApplication::setStyle(new TestedStyle(c_style));
+#else
+    QApplication::setStyle(c_style);
+#endif
+}
+
 void decodeIconsOnce() {
-    QApplication::setStyle(new IconsOnce(QApplication::style()->name()));
+    QApplication::setStyle(new IconsOnce(c_style));
 }
 
 } // namespace support

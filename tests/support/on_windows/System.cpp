@@ -10,6 +10,7 @@ namespace support {
 namespace {
 
 const int c_attempts = 1000;
+const ULONGLONG c_ticks = 10000000; // a second
 
 unsigned s_patience = 0;
 
@@ -32,9 +33,11 @@ void unsetVariable(const char* name) {
 }
 
 std::string makeFreshFolder(const std::string& beginning) {
-    for (int attempt = 0; attempt < c_attempts; ++attempt) {
+    // A name comes once in a process: a remembered folder of an earlier test must not come to life again.
+    static int s_attempt = 0;
+    for (const int end = s_attempt + c_attempts; s_attempt < end;) {
         const std::string folder =
-            beginning + std::to_string(::GetCurrentProcessId()) + '-' + std::to_string(attempt);
+            beginning + std::to_string(::GetCurrentProcessId()) + '-' + std::to_string(++s_attempt);
         if (::CreateDirectoryA(folder.c_str(), nullptr))
             return folder;
     }
@@ -42,6 +45,21 @@ std::string makeFreshFolder(const std::string& beginning) {
 }
 
 void giveAway(const std::string&, unsigned) {}
+
+void makeOld(const std::string& path) {
+    // The flag is what opens a folder.
+    const HANDLE handle = ::CreateFileA(path.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr,
+                                        OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    FILETIME now = {};
+    ::GetSystemTimeAsFileTime(&now);
+    ULARGE_INTEGER time = {};
+    time.LowPart = now.dwLowDateTime;
+    time.HighPart = now.dwHighDateTime;
+    time.QuadPart -= 48 * 3600 * c_ticks;
+    const FILETIME then = {time.LowPart, time.HighPart};
+    EXPECT_TRUE(::SetFileTime(handle, nullptr, nullptr, &then)) << path;
+    ::CloseHandle(handle);
+}
 
 void giveUpAfter(unsigned seconds) {
     static HANDLE s_timer = nullptr;
