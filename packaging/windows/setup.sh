@@ -14,6 +14,47 @@ install_windows_packages() {
     install_packages "$project_dir/packaging/debian-packages.txt" "$windows_dir/debian-packages.txt"
 }
 
+# has_windows_toolkit: whether the cache holds what packaging/windows/toolkit builds.
+has_windows_toolkit() {
+    [ -e "$RUQGUI_WINDOWS_PREFIX/built/qt6-base" ] && [ -e "$RUQGUI_WINDOWS_PREFIX/built/tiff" ]
+}
+
+# require_windows_toolkit: builds it when it is missing.
+require_windows_toolkit() { "$windows_dir/toolkit"; }
+
+# windows_libraries FOLDER...: copies into the first folder what the programs and libraries in all of
+# them load, as far as the toolkit or the compiler brings it; the rest is Windows' own.
+windows_libraries() {
+    local target=$1 name source found=1
+    while [ "$found" -ne 0 ]; do
+        found=0
+        while read -r name; do
+            source=$(windows_library "$name")
+            if [ -n "$source" ] && [ ! -e "$target/$name" ]; then
+                cp "$source" "$target/"
+                found=1
+            fi
+        done < <(find "$@" -name '*.exe' -print0 -o -name '*.dll' -print0 |
+            xargs -0 x86_64-w64-mingw32-objdump -p | sed -n 's/^.*DLL Name: //p' | sort -u)
+    done
+}
+
+# windows_library NAME: prints where it is, if it is not Windows' own.
+windows_library() {
+    local folder
+    for folder in $(windows_library_folders); do
+        if [ -e "$folder/$1" ]; then
+            printf '%s\n' "$folder/$1"
+            return
+        fi
+    done
+}
+
+windows_library_folders() {
+    printf '%s\n' "$RUQGUI_WINDOWS_PREFIX/bin" /usr/x86_64-w64-mingw32/lib
+    dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)"
+}
+
 # in_running_wine COMMAND...: with wine kept up, so that not every program that is started begins with
 # bringing up its services.
 in_running_wine() {
