@@ -55,6 +55,15 @@ windows_library_folders() {
     dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)"
 }
 
+# use_windows_desktop: from now on wine has a desktop of its own on the screen. There it makes windows active,
+# for which it would need a window manager otherwise. Such a wine has a folder of its own.
+use_windows_desktop() {
+    export RUQGUI_WINE_PREFIX=$windows_cache/wine-desktop
+    local explorer='HKCU\Software\Wine\Explorer'
+    "$windows_dir/wine" reg add "$explorer" /v Desktop /d Default /f >/dev/null
+    "$windows_dir/wine" reg add "$explorer\Desktops" /v Default /d 1280x1024 /f >/dev/null
+}
+
 # in_running_wine COMMAND...: with wine kept up, so that not every program that is started begins with
 # bringing up its services.
 in_running_wine() {

@@ -23,9 +23,10 @@ QWidget* block(QWidget* parent) {
     return widget;
 }
 
-/// Where two blocks stand in a window.
+/// Where two blocks stand in a widget. It is no window itself: those have a least width on Windows.
 struct StTwoBlocks {
-    QWidget window;
+    QWidget around;
+    QWidget window{&around};
     QWidget* first = block(&window);
     QWidget* second = block(&window);
 
@@ -36,7 +37,8 @@ struct StTwoBlocks {
 
     void arrange() {
         window.resize(window.layout()->minimumSize());
-        support::show(&window);
+        around.resize(300, 200);
+        support::show(&around);
     }
 };
 
@@ -147,7 +149,8 @@ TEST(GridLayoutTest, NestedHasNoMarginAndInheritsTheSpacing) {
 }
 
 TEST(GridLayoutTest, AWidgetCanTakeSeveralCells) {
-    QWidget window;
+    QWidget around;
+    QWidget window(&around);
     qt3::GridLayout* const grid = new qt3::GridLayout(&window, 2, 2, 0, 4);
     grid->addWidget(block(&window), 0, 0);
     grid->addWidget(block(&window), 0, 1);
@@ -155,12 +158,13 @@ TEST(GridLayoutTest, AWidgetCanTakeSeveralCells) {
     grid->addMultiCellWidget(wide, 1, 1, 0, 1);
     wide->setMinimumHeight(8);
     window.resize(grid->minimumSize());
-    support::show(&window);
+    support::show(&around);
     EXPECT_EQ(wide->geometry(), QRect(0, 14, 44, 8));
 }
 
 TEST(GridLayoutTest, AColumnThatStretchesTakesTheRoom) {
-    QWidget window;
+    QWidget around;
+    QWidget window(&around);
     qt3::GridLayout* const grid = new qt3::GridLayout(&window, 1, 2);
     grid->setColStretch(1, 1);
     QWidget* const first = block(&window);
@@ -168,7 +172,7 @@ TEST(GridLayoutTest, AColumnThatStretchesTakesTheRoom) {
     grid->addWidget(first, 0, 0);
     grid->addWidget(second, 0, 1);
     window.resize(100, 30);
-    support::show(&window);
+    support::show(&around);
     EXPECT_EQ(second->x(), 20);
     EXPECT_EQ(second->width(), 80);
 }

@@ -52,7 +52,10 @@ void prepareDisplay() {
         setVariable("QT_QPA_PLATFORM", "offscreen");
 }
 
-void addDisplayOptions(std::vector<char*>&) {}
+// The drivers answer the toolkit's dialogs. That the library asks for these is what ScriptedUser shows.
+void addDisplayOptions(std::vector<char*>&) {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
 
 void setTestedStyle() {
 #ifdef _WIN32

@@ -95,7 +95,7 @@ protected:
     qt3::StyleContext m_context;
     int m_nElement = 1;
     QStyle::State m_nState = QStyle::State_Enabled;
-    QPalette m_palette;
+    QPalette m_palette{QColor(239, 239, 239)}; // not the user's, which may have patterns
     bool m_bFrame = false;
     QColor m_brush = Qt::white;
     QRect m_rect = QRect(5, 4, 12, 8);
