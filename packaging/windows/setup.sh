@@ -71,6 +71,9 @@ in_running_wine() {
     # shellcheck disable=SC2034 # Its input stays open, and so it runs.
     coproc WINE_KEEPER { exec "$windows_dir/wine" cmd 2>/dev/null; }
     keeper=$WINE_KEEPER_PID
+    # The services keep, as long as they run, the output of the program that brought them up. When that was a test,
+    # ctest waits for the end of its output in vain.
+    "$windows_dir/wine" wineboot --init </dev/null >/dev/null 2>&1 || true
     "$@" || status=$?
     kill "$keeper" 2>/dev/null || true
     return "$status"
