@@ -36,7 +36,8 @@ std::uint64_t casesOf(std::uint64_t operations) {
 }
 
 Cases::Cases(Stage& stage, const std::string& className, std::uint64_t seed, bool rubbish)
-    : m_sClassName(className), m_nSeed(seed), m_pSubject(subjectOf(stage, className, rubbish)) {
+    : m_stage(stage), m_nEventsBefore(stage.events()), m_sClassName(className), m_nSeed(seed),
+      m_pSubject(subjectOf(stage, className, rubbish)) {
     std::signal(SIGALRM, tellWhichCaseHangs);
 }
 

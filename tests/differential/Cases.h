@@ -27,8 +27,12 @@ public:
 
     const std::string& className() const { return m_sClassName; }
     std::uint64_t seed() const { return m_nSeed; }
+    /// That have reached the widgets of the class in all cases run so far.
+    std::uint64_t events() const { return m_stage.events() - m_nEventsBefore; }
 
 private:
+    Stage& m_stage;
+    std::uint64_t m_nEventsBefore;
     std::string m_sClassName;
     std::uint64_t m_nSeed;
     std::unique_ptr<Subject> m_pSubject;

@@ -93,7 +93,16 @@ support::Lines Peer::takeLog() {
     return lines;
 }
 
+std::string Peer::takeEvents() {
+    send("events");
+    return takeLine();
+}
+
 std::string Peer::takeVerdict() {
+    return takeLine();
+}
+
+std::string Peer::takeLine() {
     std::string line;
     receive(&line);
     return line;
@@ -102,6 +111,11 @@ std::string Peer::takeVerdict() {
 namespace {
 
 // Not std::cout: a class under test may write to that.
+void answer(const std::string& line) {
+    std::puts(line.c_str());
+    std::fflush(stdout);
+}
+
 void answer(const support::Lines& lines) {
     for (const std::string& line : lines)
         std::puts(line.c_str());
@@ -123,8 +137,9 @@ void serve(Cases& cases) {
         const Operation question = Operation::parsed(line);
         const auto number = static_cast<std::uint64_t>(question.real(0));
         if (question.name() == "verdict") {
-            std::puts(verdictOn(cases.log(number)).c_str());
-            std::fflush(stdout);
+            answer(verdictOn(cases.log(number)));
+        } else if (question.name() == "events") {
+            answer(std::to_string(cases.events()));
         } else {
             answer(question.name() == "case" ? cases.log(number)
                                              : cases.run(readOperations(number)));

@@ -28,6 +28,9 @@ public:
     void askForVerdict(std::uint64_t index);
     std::string takeVerdict();
 
+    /// How many events have reached the widgets there; "" if it is dead.
+    std::string takeEvents();
+
     bool isAlive() const { return m_bAlive; }
 
     /// There are no more questions: whether it ends well then, without a leak that a sanitizer tells
@@ -37,6 +40,7 @@ public:
 private:
     void send(const std::string& line);
     bool receive(std::string* line);
+    std::string takeLine(); ///< "" from the dead.
 
     pid_t m_nProcess = 0;
     std::FILE* m_pTo = nullptr;

@@ -206,12 +206,13 @@ bool runIsolated(Cases& cases, const Options& options, const std::string& progra
         victim.fails(shortest); // once more, with what it has to say
         return false;
     }
+    const std::string events = victim.peer().takeEvents();
     if (!victim.peer().endsWell()) {
         say(cases) << "no promise broken, but the second process did not end well" << std::endl;
         return false;
     }
     say(cases) << options.operations << (options.rubbish ? " operations of rubbish" : " operations")
-               << ", no promise broken" << std::endl;
+               << ", " << events << " events at its widgets, no promise broken" << std::endl;
     return true;
 }
 

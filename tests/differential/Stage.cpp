@@ -1,6 +1,8 @@
 #include "Stage.h"
 
 #include <Events.h>
+#include <algorithm>
+#include <iterator>
 #include <qapplication.h>
 #include <qlineedit.h>
 
@@ -20,7 +22,8 @@ QWidget* newNeighbour(QWidget* parent) {
 } // namespace
 
 Stage::Stage()
-    : m_pBefore(newNeighbour(&m_window)), m_pRecorder(std::make_unique<support::Recorder>()) {
+    : m_pBefore(newNeighbour(&m_window)), m_pRecorder(std::make_unique<support::Recorder>()),
+      m_events([this](const QObject* widget) { return !isOwn(widget); }) {
     m_window.resize(c_whole.size());
     support::show(&m_window);
 }
@@ -49,7 +52,8 @@ void Stage::clear() {
 }
 
 void Stage::addNeighbourBehind() {
-    name(newNeighbour(m_pPlace), "behind");
+    m_pBehind = newNeighbour(m_pPlace);
+    name(m_pBehind, "behind");
 }
 
 void Stage::name(QWidget* widget, const std::string& label) {
@@ -77,6 +81,11 @@ void Stage::withFocusRescued(const std::function<void()>& change) {
     const QWidget* const after = qApp->focusWidget();
     if (!after || after != before || !after->isVisible() || !after->isEnabled())
         m_pBefore->setFocus();
+}
+
+bool Stage::isOwn(const QObject* widget) const {
+    const QWidget* const own[] = {&m_window, m_pPlace, m_pBefore, m_pBehind};
+    return std::find(std::begin(own), std::end(own), widget) != std::end(own);
 }
 
 void Stage::settle() {

@@ -1,6 +1,8 @@
 #ifndef RUQGUI_TESTS_DIFFERENTIAL_STAGE_H
 #define RUQGUI_TESTS_DIFFERENTIAL_STAGE_H
 
+#include "EventCount.h"
+
 #include <Recorder.h>
 #include <functional>
 #include <memory>
@@ -41,16 +43,23 @@ public:
 
     static void settle();
 
+    /// How many events have reached the widgets of subjects, from the beginning.
+    std::uint64_t events() const { return m_events.all(); }
+
     /// For a change that hides, disables or destroys: where the focus goes then is the toolkit's
     /// choice, here it goes to the neighbour before.
     void withFocusRescued(const std::function<void()>& change);
 
 private:
+    bool isOwn(const QObject* widget) const;
+
     QWidget m_window;
     qt3::Pointer<QWidget> m_pPlace;
     QWidget* m_pBefore; ///< Outside the place, so that it stays visible and enabled.
+    qt3::Pointer<QWidget> m_pBehind;
     std::vector<std::pair<qt3::Pointer<QWidget>, std::string>> m_vNames;
     std::unique_ptr<support::Recorder> m_pRecorder;
+    EventCount m_events;
 };
 
 } // namespace differential
