@@ -30,12 +30,17 @@ soak_rubbish() {
         build/asan/bin/differential --seed "$soak_seed" --operations "$(part_of 10000000)" --rubbish
 }
 
+# in_memory: a folder for short-lived files, which a disk would only slow down.
+in_memory() {
+    if [ -w /dev/shm ]; then echo /dev/shm; else echo "${TMPDIR:-/tmp}"; fi
+}
+
 # fuzz_target NAME RUNS: new inputs go to a folder of the build.
 fuzz_target() {
     local found=build/soak/$1
     mkdir -p "$found"
     say "Fuzzing $1: $2 runs, seed $soak_seed"
-    "build/fuzz/bin/fuzz_${1//-/_}" -runs="$2" -seed="$soak_seed" -max_len=400 -print_final_stats=1 \
+    TMPDIR=$(in_memory) "build/fuzz/bin/fuzz_${1//-/_}" -runs="$2" -seed="$soak_seed" -max_len=400 -print_final_stats=1 \
         -artifact_prefix=build/soak/ "$found" "fuzz/corpus/$1"
 }
 
