@@ -58,7 +58,7 @@ soak_fuzz() {
 
 soak_faults() {
     build default --target faults_tests memory_tests
-    LC_ALL=C RUQGUI_ROUNDS=$(part_of 10000) build/default/bin/faults_tests
+    LC_ALL=C RUQGUI_SEED=$soak_seed RUQGUI_ROUNDS=$(part_of 10000) build/default/bin/faults_tests
     LC_ALL=C build/default/bin/memory_tests
 }
 

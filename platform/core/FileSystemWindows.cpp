@@ -41,9 +41,12 @@ private:
 
 const DWORD c_nShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
+HANDLE open(const wchar_t* path, DWORD access, DWORD share, DWORD creation) {
+    return ::CreateFileW(path, access, share, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
 HANDLE open(const std::string& path, DWORD access, DWORD share, DWORD creation) {
-    return ::CreateFileW(toWide(path).c_str(), access, share, nullptr, creation,
-                         FILE_ATTRIBUTE_NORMAL, nullptr);
+    return open(toWide(path).c_str(), access, share, creation);
 }
 
 std::string versionOf(HANDLE handle) {
@@ -191,15 +194,25 @@ std::string configurationFolder() {
     return environmentVariable("APPDATA");
 }
 
+namespace {
+
+/// An exclusive lock of a byte far behind the content, which it leaves accessible. The system releases it when
+/// the handle is closed or the process ends.
+bool lockExclusively(HANDLE handle, DWORD flags = 0) {
+    OVERLAPPED at = {};
+    at.OffsetHigh = MAXLONG;
+    return ::LockFileEx(handle, LOCKFILE_EXCLUSIVE_LOCK | flags, 0, 1, 0, &at);
+}
+
+} // namespace
+
 struct Lock::StHandle {
     Handle handle;
 };
 
 Lock::Lock(const std::string& path) : m_pHandle(std::make_unique<StHandle>()) {
     m_pHandle->handle.Take(open(path, GENERIC_READ | GENERIC_WRITE, c_nShareAll, OPEN_ALWAYS));
-    OVERLAPPED whole = {};
-    if (!m_pHandle->handle.IsOpen() ||
-        !::LockFileEx(m_pHandle->handle, LOCKFILE_EXCLUSIVE_LOCK, 0, MAXDWORD, MAXDWORD, &whole))
+    if (!m_pHandle->handle.IsOpen() || !lockExclusively(m_pHandle->handle))
         fail("Lock", path, ::GetLastError());
 }
 
@@ -209,18 +222,35 @@ struct NewFile::StHandle {
     Handle handle;
 };
 
+namespace {
+
+/// Makes the file and locks it, which tells others that it is not left behind, until it has been renamed.
+/// 0, or the error number.
+DWORD makeLocked(const wchar_t* path, Handle& handle) {
+    // Nobody can delete the file while this is open. It would be in the way of the rename, though.
+    Handle made(open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, CREATE_NEW));
+    if (!made.IsOpen())
+        return ::GetLastError();
+    handle.Take(open(path, GENERIC_READ, c_nShareAll, OPEN_EXISTING));
+    if (handle.IsOpen() && lockExclusively(handle))
+        return 0;
+    const DWORD error = ::GetLastError();
+    made.Close();
+    ::DeleteFileW(path);
+    return error;
+}
+
+} // namespace
+
 // Whatever can run out of memory comes before the file is made: a constructor cleans nothing up.
 NewFile::NewFile(const std::string& target)
     : m_sTarget(target), m_pHandle(std::make_unique<StHandle>()) {
     if (isFolder(target))
         throw CException("NewFile", target + ": is no ordinary file");
     m_sPath = newFileName(target);
-    // Open without FILE_SHARE_DELETE: nobody takes it for left behind while this process lives.
-    m_pHandle->handle.Take(
-        open(m_sPath, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, CREATE_NEW));
-    if (!m_pHandle->handle.IsOpen()) {
+    if (const DWORD error = makeLocked(toWide(m_sPath).c_str(), m_pHandle->handle)) {
         m_sPath.clear();
-        fail("NewFile", target, ::GetLastError());
+        fail("NewFile", target, error);
     }
 }
 
@@ -232,12 +262,18 @@ NewFile::~NewFile() {
 
 void NewFile::MoveToTarget() {
     flush(m_sPath);
-    m_pHandle->handle.Close();
     renameOver(m_sPath, m_sTarget);
     m_sPath.clear();
 }
 
 namespace {
+
+/// Opened for reading only: a living process may want to write to its file just now.
+void removeUnlessInUse(const std::string& path) {
+    const Handle handle(open(path, GENERIC_READ, c_nShareAll, OPEN_EXISTING));
+    if (handle.IsOpen() && lockExclusively(handle, LOCKFILE_FAIL_IMMEDIATELY))
+        ::DeleteFileW(toWide(path).c_str());
+}
 
 struct SearchCloser {
     void operator()(void* search) const { ::FindClose(search); }
@@ -253,10 +289,9 @@ void removeLeftBehind(const std::string& target) {
         return;
     const std::unique_ptr<void, SearchCloser> search(first);
     do {
-        // Fails for those that a living process holds.
         const std::string name = toUtf8(found.cFileName);
         if (isNewFileName(name, target))
-            ::DeleteFileW(toWide(folder + "/" + name).c_str());
+            removeUnlessInUse(folder + "/" + name);
     } while (::FindNextFileW(search.get(), &found));
 }
 

@@ -298,11 +298,22 @@ void writeTiff(const CImage& image, const std::string& path) {
     file.Finish();
 }
 
+bool isProtected(const std::filesystem::path& file) {
+#ifdef _WIN32
+    // Not tried: another program that has the file open for a moment does not protect it.
+    std::error_code error;
+    const auto permissions = std::filesystem::status(file, error).permissions();
+    return (permissions & std::filesystem::perms::owner_write) == std::filesystem::perms::none;
+#else
+    return !std::ofstream(file, std::ios::app);
+#endif
+}
+
 /// The new file will take the place of the old one, which its write protection would not prevent.
 void checkNotProtected(const std::string& path) {
     const std::filesystem::path file = std::filesystem::u8path(path);
     std::error_code error;
-    if (std::filesystem::is_regular_file(file, error) && !std::ofstream(file, std::ios::app))
+    if (std::filesystem::is_regular_file(file, error) && isProtected(file))
         fail("the file is write-protected");
 }
 

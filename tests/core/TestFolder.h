@@ -41,11 +41,15 @@ public:
         return bytes.str();
     }
 
-    /// In order.
-    std::vector<std::string> Names() const {
+    /// In order; those with this at their end.
+    std::vector<std::string> Names(const std::string& end = "") const {
         std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(m_sPath))
-            names.push_back(entry.path().filename().string());
+        for (const auto& entry : std::filesystem::directory_iterator(m_sPath)) {
+            const std::string name = entry.path().filename().string();
+            if (name.size() >= end.size() &&
+                name.compare(name.size() - end.size(), std::string::npos, end) == 0)
+                names.push_back(name);
+        }
         std::sort(names.begin(), names.end());
         return names;
     }

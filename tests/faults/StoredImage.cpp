@@ -18,7 +18,7 @@ StoredImage::StoredImage() {
 }
 
 std::string StoredImage::Path() const {
-    return std::filesystem::path(m_folder.Path(c_sName)).lexically_normal();
+    return std::filesystem::path(m_folder.Path(c_sName)).lexically_normal().generic_string();
 }
 
 void StoredImage::Save(int pixel) const {
@@ -42,7 +42,7 @@ std::string StoredImage::Complaint(bool saved) const {
     try {
         const int pixel = Pixel();
         if (pixel == 2 || (!saved && pixel == 1))
-            return "";
+            return ComplaintAfterTheNextSave();
         return std::string(saved ? "saved" : "not saved") + ", and the pixel is " +
                std::to_string(pixel);
     } catch (const CException& failure) {

@@ -13,13 +13,15 @@ public:
     static constexpr const char* c_sKind = "image"; ///< For SAVE_ONCE.
     std::string Path() const;
 
-    /// Empty when the file is whole and is the new image, or the old one unless \a saved.
+    /// Empty when the file is whole and is the new image, or the old one unless \a saved, and when the next save
+    /// leaves nothing else behind.
     std::string Complaint(bool saved) const;
 
     /// Saves once more; empty when nothing but the image is left.
     std::string ComplaintAfterTheNextSave() const;
 
     bool IsNewFile(const std::string& path) const; ///< That of a save that is under way.
+    bool HasNewFile() const { return !m_folder.Names(".new").empty(); }
 
     void Save(int pixel) const; ///< An image of this pixel, from 0 to 255, everywhere.
     static void SaveAs(const std::string& path, int pixel);

@@ -1,5 +1,7 @@
 #include "StoredRegistry.h"
 
+#include "RegistryText.h"
+
 #include <ChildProcess.h>
 #include <System.h>
 #include <ruqlib2core/CRegistry.h>
@@ -24,39 +26,26 @@ bool beginsWith(const std::string& text, const std::string& start) {
 
 } // namespace
 
-StoredRegistry::StoredRegistry() {
-    inFreshProcess(Path(), [] {
-        CRegistry::Obj().SetEntry("key", new CValueString("before"));
-        CRegistry::Obj().SetEntry("other", new CValueString("kept"));
-        return std::string();
-    });
-    m_sOldBytes = m_folder.Read(c_sName);
+StoredRegistry::StoredRegistry()
+    : m_sOldBytes(
+          RegistryText::write({{"key", std::string("before")}, {"other", std::string("kept")}})) {
+    m_folder.Write(c_sName, m_sOldBytes);
 }
 
 std::string StoredRegistry::Path() const {
-    return std::filesystem::path(m_folder.Path(c_sName)).lexically_normal();
+    return std::filesystem::path(m_folder.Path(c_sName)).lexically_normal().generic_string();
 }
 
 std::string StoredRegistry::Complaint(bool saved) const {
-    const std::string found = inFreshProcess(Path(), [] {
-        const CRegistry& registry = CRegistry::Obj();
-        return registry.GetString("key", "none") + " " + registry.GetString("other", "none");
-    });
-    if (found == "after kept" || (!saved && found == "before kept"))
-        return "";
-    if (!keptAside().empty() && m_folder.Read(keptAside()) == m_sOldBytes &&
-        (found == "after none" || (!saved && found == "none none")))
-        return "";
-    return std::string(saved ? "saved" : "not saved") + ", and the registry has: " + found;
-}
-
-std::string StoredRegistry::ComplaintAfterTheNextSave() const {
     const std::string said = inFreshProcess(Path(), [] {
-        CRegistry::Obj().SetEntry("next", new CValueString("x"));
-        return CRegistry::Obj().GetString("next", "none");
+        CRegistry& registry = CRegistry::Obj();
+        const std::string found =
+            registry.GetString("key", "none") + " " + registry.GetString("other", "none");
+        registry.SetEntry("next", new CValueString("saved"));
+        return found + " next " + registry.GetString("next", "none");
     });
-    if (said != "x")
-        return "the next save said: " + said;
+    if (!isRight(said, saved))
+        return std::string(saved ? "saved" : "not saved") + ", and a fresh process says: " + said;
     for (const std::string& name : m_folder.Names()) {
         if (name != c_sName && name != std::string(c_sName) + ".lock" && name != keptAside())
             return "left behind: " + name;
@@ -64,8 +53,21 @@ std::string StoredRegistry::ComplaintAfterTheNextSave() const {
     return "";
 }
 
+long StoredRegistry::Number(const std::string& key) const {
+    const auto settings = RegistryText::read(m_folder.Read(c_sName));
+    const auto found = settings.find(key);
+    return found == settings.end() ? 0 : std::get<long>(found->second);
+}
+
 bool StoredRegistry::IsNewFile(const std::string& path) const {
     return beginsWith(path, Path()) && path != Path() && path != Path() + ".lock";
+}
+
+bool StoredRegistry::isRight(const std::string& said, bool saved) const {
+    if (said == "after kept next saved" || (!saved && said == "before kept next saved"))
+        return true;
+    return !keptAside().empty() && m_folder.Read(keptAside()) == m_sOldBytes &&
+           (said == "after none next saved" || (!saved && said == "none none next saved"));
 }
 
 std::string StoredRegistry::keptAside() const {
