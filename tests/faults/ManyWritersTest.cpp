@@ -118,7 +118,7 @@ std::string look(const ChildProcess::Arguments& arguments) {
 
 TEST(ManyWriters, LoseNothingAndTearNothing) {
     const TestFolder folder;
-    const int count = rounds(60);
+    const int count = rounds(40);
     const std::string path = folder.Path("registry.json");
     ChildProcess(writeNumbers, {path, "0", "1"}).wait();
     ChildProcess looker(
@@ -140,7 +140,7 @@ TEST(ManyWriters, LoseNothingAndTearNothing) {
 
 TEST(ManyWriters, OfOneImageEachStoreItWhole) {
     const StoredImage stored;
-    const int count = rounds(60);
+    const int count = rounds(40);
 
     expectThatAllEndWell(startWriters(writeImages, stored.Path(), count));
 

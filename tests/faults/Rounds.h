@@ -8,10 +8,15 @@
 /// start, so that every day has fewer rounds there.
 inline int rounds(int everyday) {
 #ifdef _WIN32
-    everyday /= 6;
+    everyday /= 10;
 #endif
     const char* const asked = std::getenv("RUQGUI_ROUNDS");
     return asked ? std::stoi(asked) : everyday;
+}
+
+/// Whether RUQGUI_ROUNDS asks for more than an everyday run.
+inline bool isLongRun() {
+    return std::getenv("RUQGUI_ROUNDS") != nullptr;
 }
 
 /// What random numbers begin with: what RUQGUI_SEED says, 1 otherwise.

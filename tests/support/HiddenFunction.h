@@ -11,6 +11,7 @@ public:
     HiddenFunction(const char* symbol, Any standIn);
     HiddenFunction(const HiddenFunction&) = delete;
     HiddenFunction& operator=(const HiddenFunction&) = delete;
+    ~HiddenFunction() { hide(false); }
 
 protected:
     /// While it lives, the library's function is to be seen.

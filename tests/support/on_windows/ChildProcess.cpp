@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <io.h>
 #include <stdexcept>
+#include <system_error>
 #include <windows.h>
 
 namespace support {
@@ -89,7 +90,8 @@ PROCESS_INFORMATION startSuspended(HANDLE output, HANDLE errors) {
     PROCESS_INFORMATION process = {};
     if (!::CreateProcessA(program, ::GetCommandLineA(), nullptr, nullptr, TRUE, CREATE_SUSPENDED,
                           nullptr, nullptr, &startup, &process))
-        throw std::runtime_error("no process");
+        throw std::system_error(static_cast<int>(::GetLastError()), std::system_category(),
+                                "no process");
     return process;
 }
 

@@ -11,7 +11,7 @@ namespace support {
 namespace {
 
 FARPROC find(const char* symbol) {
-    for (const char* library : {"ruqgui.dll", "ruqlib2image.dll", "ruqlib2core.dll"}) {
+    for (const char* library : {"ruqgui.dll", "ruqlib2image.dll", "ruqlib2core.dll", "ntdll.dll"}) {
         if (const FARPROC found = ::GetProcAddress(::GetModuleHandleA(library), symbol))
             return found;
     }
