@@ -3,11 +3,8 @@
 #include "Digest.h"
 #include "subjects/Subjects.h"
 
-#include <csignal>
-#include <cstdio>
-#include <cstdlib>
+#include <System.h>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace differential {
 
@@ -16,9 +13,8 @@ namespace {
 const unsigned c_nPatience = 120; // seconds for one case, on a busy machine and with sanitizers
 std::string s_presentCase;
 
-void tellWhichCaseHangs(int) {
-    std::fprintf(stderr, "No end after %u seconds: %s\n", c_nPatience, s_presentCase.c_str());
-    std::abort();
+std::string presentCase() {
+    return s_presentCase;
 }
 
 std::unique_ptr<Subject> subjectOf(Stage& stage, const std::string& className, bool rubbish) {
@@ -37,9 +33,7 @@ std::uint64_t casesOf(std::uint64_t operations) {
 
 Cases::Cases(Stage& stage, const std::string& className, std::uint64_t seed, bool rubbish)
     : m_stage(stage), m_nEventsBefore(stage.events()), m_sClassName(className), m_nSeed(seed),
-      m_pSubject(subjectOf(stage, className, rubbish)) {
-    std::signal(SIGALRM, tellWhichCaseHangs);
-}
+      m_pSubject(subjectOf(stage, className, rubbish)) {}
 
 Operations Cases::operations(std::uint64_t index) const {
     Random random(mixedSeed(m_nSeed, m_sClassName, index));
@@ -50,9 +44,9 @@ support::Lines Cases::run(const Operations& operations) {
     s_presentCase = m_sClassName;
     for (const Operation& operation : operations)
         s_presentCase += '\n' + operation.line();
-    alarm(c_nPatience);
+    support::giveUpAfter(c_nPatience, presentCase);
     const support::Lines lines = m_pSubject->run(operations);
-    alarm(0);
+    support::giveUpAfter(0);
     return lines;
 }
 

@@ -1,15 +1,9 @@
 #include "FileUser.h"
 
 #include <Events.h>
-#include <cstdlib>
+#include <System.h>
 #include <ruqlib2core/CRegistry.h>
 #include <ruqlib2core/CValueString.h>
-
-// The registry waits for the disk at each entry. Whether it does has tests of its own; here it would be
-// nearly all of the time.
-extern "C" int fsync(int) {
-    return 0;
-}
 
 namespace differential {
 
@@ -101,8 +95,8 @@ bool FileUser::isInExistingDir(const QString& name) {
 }
 
 FileSettings::FileSettings() {
-    setenv("RUQ_REGISTRY", m_folder.path("registry.json").c_str(), true);
-    setenv("HOME", "/home/user", true);
+    support::setVariable("RUQ_REGISTRY", m_folder.path("registry.json"));
+    support::setVariable("HOME", "/home/user");
 }
 
 void FileSettings::clear() {

@@ -4,6 +4,7 @@
 #include "Subject.h"
 #include "User.h"
 
+#include <System.h>
 #include <TempDir.h>
 #include <deque>
 #include <set>
@@ -55,6 +56,9 @@ public:
     static std::string text();
 
 private:
+    /// The registry waits for the disk at each entry. Whether it does has tests of its own; here it would be nearly
+    /// all of the time.
+    support::InMemory m_inMemory;
     support::TempDir m_folder;
 };
 

@@ -1,89 +1,34 @@
 #include "Peer.h"
 
-#include <csignal>
-#include <cstdlib>
-#include <fcntl.h>
+#include <cstdio>
 #include <iostream>
-#include <stdexcept>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace differential {
 
-namespace {
-
-/// The end of the parent is closed in other children, else they would keep the pipe open.
-void makePipe(int* ends) {
-    if (pipe2(ends, O_CLOEXEC) != 0)
-        throw std::runtime_error("no pipe");
-}
-
-} // namespace
-
-Peer::Peer(const std::string& command) {
-    std::signal(SIGPIPE, SIG_IGN);
-    int to[2];
-    int from[2];
-    makePipe(to);
-    makePipe(from);
-    m_nProcess = fork();
-    if (m_nProcess < 0)
-        throw std::runtime_error("no second process");
-    if (m_nProcess == 0) {
-        dup2(to[0], STDIN_FILENO);
-        dup2(from[1], STDOUT_FILENO);
-        execl("/bin/sh", "sh", "-c", ("exec " + command + " --serve").c_str(), nullptr);
-        _exit(127);
-    }
-    close(to[0]);
-    close(from[1]);
-    m_pTo = fdopen(to[1], "w");
-    m_pFrom = fdopen(from[0], "r");
-}
-
-Peer::~Peer() {
-    if (m_pTo)
-        endsWell();
-    std::fclose(m_pFrom);
-}
+Peer::Peer(const std::string& command, EnErrors errors) : m_program(command + " --serve", errors) {}
 
 bool Peer::endsWell() {
-    std::fclose(m_pTo);
-    m_pTo = nullptr;
     m_bAlive = false;
-    int status = 0;
-    waitpid(m_nProcess, &status, 0);
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
-
-void Peer::send(const std::string& line) {
-    std::fprintf(m_pTo, "%s\n", line.c_str());
-    std::fflush(m_pTo);
+    return m_program.endsWell();
 }
 
 bool Peer::receive(std::string* line) {
-    char* read = nullptr;
-    std::size_t capacity = 0;
-    const ssize_t length = getline(&read, &capacity, m_pFrom);
-    m_bAlive = length > 0;
-    if (m_bAlive)
-        line->assign(read, static_cast<std::size_t>(length) - 1);
-    std::free(read);
+    m_bAlive = m_program.readLine(line);
     return m_bAlive;
 }
 
 void Peer::askFor(std::uint64_t index) {
-    send("case " + std::to_string(index));
+    m_program.writeLine("case " + std::to_string(index));
 }
 
 void Peer::askForVerdict(std::uint64_t index) {
-    send("verdict " + std::to_string(index));
+    m_program.writeLine("verdict " + std::to_string(index));
 }
 
 void Peer::askFor(const Operations& operations) {
-    send("operations " + std::to_string(operations.size()));
+    m_program.writeLine("operations " + std::to_string(operations.size()));
     for (const Operation& operation : operations)
-        send(operation.line());
+        m_program.writeLine(operation.line());
 }
 
 support::Lines Peer::takeLog() {
@@ -94,7 +39,7 @@ support::Lines Peer::takeLog() {
 }
 
 std::string Peer::takeEvents() {
-    send("events");
+    m_program.writeLine("events");
     return takeLine();
 }
 
@@ -133,6 +78,7 @@ Operations readOperations(std::size_t count) {
 } // namespace
 
 void serve(Cases& cases) {
+    support::SecondProgram::behavePlainly();
     for (std::string line; std::getline(std::cin, line);) {
         const Operation question = Operation::parsed(line);
         const auto number = static_cast<std::uint64_t>(question.real(0));

@@ -3,9 +3,8 @@
 
 #include "Cases.h"
 
-#include <cstdio>
+#include <SecondProgram.h>
 #include <string>
-#include <sys/types.h>
 
 namespace differential {
 
@@ -13,11 +12,11 @@ namespace differential {
 /// crash. It is asked by lines of text, and answers by lines.
 class Peer {
 public:
-    /// \a command is for the shell; "--serve" is given to it.
-    explicit Peer(const std::string& command);
-    Peer(const Peer&) = delete;
-    Peer& operator=(const Peer&) = delete;
-    ~Peer();
+    using EnErrors = support::SecondProgram::EnErrors;
+
+    /// \a command is that of a SecondProgram; "--serve" is given to it.
+    explicit Peer(const std::string& command,
+                  EnErrors errors = support::SecondProgram::eErrorsShown);
 
     /// Asks for the case; the answer comes with takeLog().
     void askFor(std::uint64_t index);
@@ -38,13 +37,10 @@ public:
     bool endsWell();
 
 private:
-    void send(const std::string& line);
     bool receive(std::string* line);
     std::string takeLine(); ///< "" from the dead.
 
-    pid_t m_nProcess = 0;
-    std::FILE* m_pTo = nullptr;
-    std::FILE* m_pFrom = nullptr;
+    support::SecondProgram m_program;
     bool m_bAlive = true;
 };
 

@@ -33,12 +33,12 @@ Record Record::read(const std::string& folder, const std::string& className) {
 }
 
 void Record::write(const std::string& folder, const std::string& className) const {
-    std::ofstream all(pathOf(folder, className, ".digests"));
+    std::ofstream all(pathOf(folder, className, ".digests"), std::ios::binary);
     all << "seed " << seed;
     for (std::size_t i = 0; i < digests.size(); ++i)
         all << (i % c_nDigestsInLine ? ' ' : '\n') << digests[i];
     all << '\n';
-    std::ofstream lines(pathOf(folder, className, ".log"));
+    std::ofstream lines(pathOf(folder, className, ".log"), std::ios::binary);
     for (const std::string& line : log)
         lines << line << '\n';
     if (!all.flush() || !lines.flush())

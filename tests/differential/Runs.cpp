@@ -164,11 +164,13 @@ namespace {
 /// A process that may end under the operations, and is then started anew.
 class Victim {
 public:
-    explicit Victim(const std::string& command) : m_sCommand(command) {}
+    explicit Victim(const std::string& command,
+                    Peer::EnErrors errors = support::SecondProgram::eErrorsShown)
+        : m_sCommand(command), m_enErrors(errors) {}
 
     Peer& peer() {
         if (!m_pPeer || !m_pPeer->isAlive())
-            m_pPeer = std::make_unique<Peer>(m_sCommand);
+            m_pPeer = std::make_unique<Peer>(m_sCommand, m_enErrors);
         return *m_pPeer;
     }
 
@@ -180,14 +182,16 @@ public:
 
 private:
     std::string m_sCommand;
+    Peer::EnErrors m_enErrors;
     std::unique_ptr<Peer> m_pPeer;
 };
 
 } // namespace
 
 bool runIsolated(Cases& cases, const Options& options, const std::string& program) {
-    const std::string command = program + (options.rubbish ? " --rubbish" : "") + " --class " +
-                                cases.className() + " --seed " + std::to_string(cases.seed());
+    const std::string command = '"' + program + '"' + (options.rubbish ? " --rubbish" : "") +
+                                " --class " + cases.className() + " --seed " +
+                                std::to_string(cases.seed());
     Victim victim(command);
     for (std::uint64_t index = 0; index < casesOf(options.operations); ++index) {
         victim.peer().askForVerdict(index);
@@ -196,7 +200,7 @@ bool runIsolated(Cases& cases, const Options& options, const std::string& progra
             continue;
         say(cases) << "case " << index << ": " << (verdict.empty() ? "it crashed" : verdict)
                    << std::endl;
-        Victim silent(command + " 2>/dev/null");
+        Victim silent(command, support::SecondProgram::eErrorsHidden);
         const Operations shortest =
             reduced(cases.operations(index),
                     [&](const Operations& candidate) { return silent.fails(candidate); });

@@ -72,7 +72,7 @@ int main(int argc, char** argv) {
         support::prepareDisplay();
         QApplication::setDesktopSettingsAware(false);
         const QApplication application(argc, argv);
-        QApplication::setStyle("windows");
+        support::setTestedStyle();
         return run(options, program) ? 0 : 1;
     } catch (const std::exception& fault) {
         std::cerr << "differential: " << fault.what() << '\n';

@@ -127,7 +127,7 @@ bool ScriptedStage::test(const QString& name, bool existing) {
     return passes;
 }
 
-class FileDialogPathsTest : private InMemory, public FileDialogTest {
+class FileDialogPathsTest : private support::InMemory, public FileDialogTest {
 protected:
     FileDialogPathsTest() : runs(m_stage, m_stage.parent()) {
         support::setVariable("HOME", c_home);

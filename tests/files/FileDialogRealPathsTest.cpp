@@ -3,6 +3,7 @@
 
 #include <Display.h>
 #include <OrdinaryUser.h>
+#include <System.h>
 #include <filesystem>
 #include <fstream>
 #include <qfile.h>
@@ -126,7 +127,7 @@ std::string RealStage::encoded(const std::string& path) {
 }
 
 // Only for an ordinary user are there locked files.
-class RealPathsTest : private InMemory,
+class RealPathsTest : private support::InMemory,
                       public FileDialogTest,
                       public testing::WithParamInterface<std::size_t> {
 protected:

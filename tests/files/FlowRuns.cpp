@@ -2,9 +2,7 @@
 
 #include "FileDialogTest.h"
 
-#include <System.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 using TEVU::CFileDialog;
 
@@ -46,17 +44,4 @@ void FlowRuns::expectState() {
     ASSERT_FALSE(m_dialog.WasFileSelected());
     ASSERT_EQ(FileDialogTest::remembered(), m_model.registryLines());
     ++m_nRuns;
-}
-
-// Under wine it is the one of the system around it.
-InMemory::InMemory() {
-#ifdef _WIN32
-    const char* const variable = "TMP";
-    const char* const folder = "Z:/dev/shm";
-#else
-    const char* const variable = "TMPDIR";
-    const char* const folder = "/dev/shm";
-#endif
-    if (access(folder, W_OK) == 0)
-        support::setVariable(variable, folder);
 }

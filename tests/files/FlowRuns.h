@@ -33,9 +33,4 @@ private:
 /// The greatest series are run in so many shares.
 const std::size_t c_nShares = 4;
 
-/// Has all files of a test in memory, where the system has such a place: thousands of them come and go.
-struct InMemory {
-    InMemory();
-};
-
 #endif

@@ -21,9 +21,18 @@ void giveAway(const std::string& path, unsigned user);
 /// Gives a file or folder the times of two days ago.
 void makeOld(const std::string& path);
 
-/// Ends the process, with the name of the test that hangs, when it still runs after so many seconds. A later call
-/// begins to count anew.
-void giveUpAfter(unsigned seconds);
+/// "Suite.Test"; "." outside of tests.
+std::string presentTest();
+
+/// Ends the process, with the name of what hangs, when it still runs after so many seconds. A later call begins to
+/// count anew; 0 is for ever.
+void giveUpAfter(unsigned seconds, std::string (*nameOfWhatRuns)() = presentTest);
+
+/// From its construction on, temporary files are made in memory, where the system has such a place: tests that make
+/// thousands, or wait for the disk thousands of times, are quick there. A base class or a member before the folders.
+struct InMemory {
+    InMemory();
+};
 
 } // namespace support
 

@@ -14,11 +14,11 @@ namespace support {
 namespace {
 
 unsigned s_patience = 0;
+std::string (*s_nameOfWhatRuns)() = nullptr;
 
 void tellWhereItHangs(int) {
-    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-    std::fprintf(stderr, "No end after %u seconds: %s.%s hangs here:\n", s_patience,
-                 test ? test->test_suite_name() : "", test ? test->name() : "");
+    std::fprintf(stderr, "No end after %u seconds: %s hangs here:\n", s_patience,
+                 s_nameOfWhatRuns().c_str());
     void* frames[100];
     backtrace_symbols_fd(frames, backtrace(frames, 100), STDERR_FILENO);
     std::abort();
@@ -50,10 +50,17 @@ void makeOld(const std::string& path) {
     fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::hours(48));
 }
 
-void giveUpAfter(unsigned seconds) {
+void giveUpAfter(unsigned seconds, std::string (*nameOfWhatRuns)()) {
     s_patience = seconds;
+    s_nameOfWhatRuns = nameOfWhatRuns;
     std::signal(SIGALRM, tellWhereItHangs);
     alarm(seconds);
+}
+
+InMemory::InMemory() {
+    const char* const folder = "/dev/shm";
+    if (access(folder, W_OK) == 0)
+        setVariable("TMPDIR", folder);
 }
 
 } // namespace support

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <io.h>
 #include <windows.h>
 
 namespace support {
@@ -11,13 +12,16 @@ namespace {
 
 const int c_attempts = 1000;
 const ULONGLONG c_ticks = 10000000; // a second
+const DWORD c_forEver = 1000000000; // milliseconds, eleven days; nothing ends then either
 
 unsigned s_patience = 0;
+std::string (*s_nameOfWhatRuns)() = nullptr;
 
 void CALLBACK endBecauseOfTime(void*, BOOLEAN) {
-    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-    std::fprintf(stderr, "No end after %u seconds: %s.%s hangs\n", s_patience,
-                 test ? test->test_suite_name() : "", test ? test->name() : "");
+    if (s_patience == 0)
+        return;
+    std::fprintf(stderr, "No end after %u seconds: %s hangs\n", s_patience,
+                 s_nameOfWhatRuns().c_str());
     std::fflush(nullptr);
     ::TerminateProcess(::GetCurrentProcess(), 3);
 }
@@ -61,14 +65,23 @@ void makeOld(const std::string& path) {
     ::CloseHandle(handle);
 }
 
-void giveUpAfter(unsigned seconds) {
+void giveUpAfter(unsigned seconds, std::string (*nameOfWhatRuns)()) {
     static HANDLE s_timer = nullptr;
+    const DWORD milliseconds = seconds > 0 ? seconds * 1000 : c_forEver;
     s_patience = seconds;
+    s_nameOfWhatRuns = nameOfWhatRuns;
     if (s_timer)
-        ::ChangeTimerQueueTimer(nullptr, s_timer, seconds * 1000, 0);
+        ::ChangeTimerQueueTimer(nullptr, s_timer, milliseconds, 0);
     else
-        ::CreateTimerQueueTimer(&s_timer, nullptr, endBecauseOfTime, nullptr, seconds * 1000, 0,
+        ::CreateTimerQueueTimer(&s_timer, nullptr, endBecauseOfTime, nullptr, milliseconds, 0,
                                 WT_EXECUTEONLYONCE);
+}
+
+// Under wine, the place of the system around it.
+InMemory::InMemory() {
+    const char* const folder = "Z:/dev/shm";
+    if (_access(folder, 2) == 0)
+        setVariable("TMP", folder);
 }
 
 } // namespace support
