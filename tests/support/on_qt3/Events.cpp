@@ -1,5 +1,7 @@
 #include "Events.h"
 
+#include "DisplayTime.h"
+
 #include <qapplication.h>
 #include <qclipboard.h>
 #include <qpixmap.h>
@@ -118,6 +120,7 @@ QImage grab(QWidget* widget) {
 }
 
 void setClipboard(const QString& text) {
+    learnDisplayTime();
     QApplication::clipboard()->setText(text, QClipboard::Clipboard);
     processEvents();
 }
