@@ -1,7 +1,6 @@
 #ifndef RUQGUI_TESTS_SUPPORT_NOTONWINDOWS_H
 #define RUQGUI_TESTS_SUPPORT_NOTONWINDOWS_H
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -28,16 +27,6 @@ constexpr const char* noClosedPlace =
 constexpr const char* noPipes = "Not on Windows: no pipe can stand in the place of a file there";
 constexpr const char* noJpeg = "Not on Windows: libtiff is built without JPEG there, because "
                                "Debian has no libjpeg for Windows";
-
-constexpr const char* orderOfTheList = "Not on real windows: several names that were typed come "
-                                       "back from Qt's file dialog in the order "
-                                       "of its list there";
-
-/// Whether windows are those of the system, not pictures in memory.
-inline bool areRealWindows() {
-    const char* const platform = std::getenv("QT_QPA_PLATFORM");
-    return platform && std::string(platform).rfind("windows", 0) == 0;
-}
 
 /// Whether a file can have this name: on Windows some signs cannot be in it, others not at its end.
 inline bool isPossibleName(const std::string& name) {

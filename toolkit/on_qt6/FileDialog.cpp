@@ -3,8 +3,10 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHash>
 #include <QLineEdit>
 #include <QPointer>
+#include <algorithm>
 
 namespace qt3 {
 
@@ -55,6 +57,47 @@ QStringList resolveFolders(const QStringList& paths) {
     return resolved;
 }
 
+// What the name field holds when it holds several.
+QStringList quotedNames(const QString& text) {
+    const QStringList parts = text.split('"');
+    QStringList names;
+    for (qsizetype i = 1; i < parts.size(); i += 2)
+        names.append(parts[i]);
+    return names;
+}
+
+// Which of some names each path is meant by, spelled alike or not.
+class Positions {
+public:
+    Positions(const QStringList& names, const QDir& folder) : m_nBehind(names.size()) {
+        QStringList paths;
+        for (const QString& name : names)
+            paths.append(
+                QDir::cleanPath(folder.absoluteFilePath(QDir::fromNativeSeparators(name))));
+        for (qsizetype i = 0; i < paths.size(); ++i)
+            add(paths[i], i);
+        for (qsizetype i = 0; i < paths.size(); ++i)
+            add(QFileInfo(paths[i]).canonicalFilePath(), i);
+    }
+
+    // Behind all of them, if none is meant.
+    qsizetype of(const QString& path) const {
+        const auto found = m_found.constFind(path);
+        return found != m_found.cend()
+                   ? *found
+                   : m_found.value(QFileInfo(path).canonicalFilePath(), m_nBehind);
+    }
+
+private:
+    void add(const QString& path, qsizetype position) {
+        if (!m_found.contains(path))
+            m_found.insert(path, position);
+    }
+
+    qsizetype m_nBehind;
+    QHash<QString, qsizetype> m_found;
+};
+
 // The toolkit's dialog reads quotation marks as its way to write several names into one field, also
 // where one file is asked for: a file "say "hi".tif" would come back as "hi". This one takes them as
 // part of the name unless several are asked for.
@@ -63,7 +106,7 @@ public:
     using QFileDialog::QFileDialog;
 
     QStringList chosenFiles() const {
-        return m_sQuoted.isEmpty() ? selectedFiles() : QStringList(m_sQuoted);
+        return m_sQuoted.isEmpty() ? inTheOrderTyped(selectedFiles()) : QStringList(m_sQuoted);
     }
 
 protected:
@@ -71,13 +114,31 @@ protected:
 
 private:
     void acceptQuoted(const QFileInfo& file);
+    QString typed() const;
+    QStringList inTheOrderTyped(QStringList files) const;
 
     QString m_sQuoted; ///< The path chosen, if the name has quotation marks.
 };
 
-void Dialog::accept() {
+QString Dialog::typed() const {
     const auto* field = findChild<QLineEdit*>("fileNameEdit"); // null in the platform's dialog
-    const QString name = field ? field->text() : QString();
+    return field ? field->text() : QString();
+}
+
+// The toolkit's dialog selects in its list what is typed, and loses the order when it sorts the list anew, as it
+// does whenever it has read more of the folder.
+QStringList Dialog::inTheOrderTyped(QStringList files) const {
+    if (files.size() < 2)
+        return files;
+    const Positions positions(quotedNames(typed()), directory());
+    std::stable_sort(files.begin(), files.end(), [&](const QString& one, const QString& other) {
+        return positions.of(one) < positions.of(other);
+    });
+    return files;
+}
+
+void Dialog::accept() {
+    const QString name = typed();
     if (name.contains('"') && fileMode() != ExistingFiles)
         acceptQuoted(QFileInfo(directory(), name));
     else
