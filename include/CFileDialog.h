@@ -8,6 +8,10 @@
 #include <string>
 #include <vector>
 
+// Windows' own header makes macros of these names. Include it before this one, if at all.
+#undef GetOpenFileName
+#undef GetSaveFileName
+
 class QWidget;
 
 namespace TEVU {

@@ -64,6 +64,13 @@ use_windows_desktop() {
     "$windows_dir/wine" reg add "$explorer\Desktops" /v Default /d 1280x1024 /f >/dev/null
 }
 
+# share_drive: //localhost/c$ is drive C, as on Windows, where every drive is shared with administrators.
+share_drive() {
+    local shares=${RUQGUI_WINE_PREFIX:-$windows_cache/wine}/dosdevices/unc/localhost
+    mkdir -p "$shares"
+    ln -sfn ../../../drive_c "$shares/c\$"
+}
+
 # in_running_wine COMMAND...: with wine kept up, so that not every program that is started begins with
 # bringing up its services.
 in_running_wine() {
@@ -74,6 +81,7 @@ in_running_wine() {
     # The services keep, as long as they run, the output of the program that brought them up. When that was a test,
     # ctest waits for the end of its output in vain.
     "$windows_dir/wine" wineboot --init </dev/null >/dev/null 2>&1 || true
+    share_drive
     "$@" || status=$?
     kill "$keeper" 2>/dev/null || true
     return "$status"

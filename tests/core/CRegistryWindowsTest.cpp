@@ -1,5 +1,6 @@
 #include "CRegistryTest.h"
 
+#include <Share.h>
 #include <ruqlib2core/CValueLong.h>
 
 #include <windows.h>
@@ -77,6 +78,19 @@ TEST_F(CRegistryWindowsTest, BothSeparatorsLeadToTheFile) {
 
     EXPECT_EQ(inChild(storedText).output, "text");
     EXPECT_TRUE(std::filesystem::exists(m_folder.Path("some/folder/registry.json")));
+}
+
+TEST_F(CRegistryWindowsTest, FileMayBeOnAShare) {
+    NEEDS_A_SHARE_OF(m_folder.Path(""));
+    const std::string path = support::onShare(m_folder.Path("some/folder/registry.json"));
+    support::setVariable("RUQ_REGISTRY", support::withBackslashes(path));
+
+    const auto outcome = inChild([] { return setAndGet("text") + CRegistry::Obj().FilePath(); });
+
+    EXPECT_EQ(outcome.output, "text" + path);
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_TRUE(std::filesystem::exists(m_folder.Path("some/folder/registry.json")));
+    EXPECT_TRUE(std::filesystem::exists(m_folder.Path("some/folder/registry.json.lock")));
 }
 
 TEST_F(CRegistryWindowsTest, ReadOnlyFileCostsALineAndTheValueHolds) {

@@ -4,6 +4,7 @@
 
 #include "TestFolder.h"
 
+#include <Share.h>
 #include <ruqlib2core/CException.h>
 
 #include <system_error>
@@ -59,4 +60,20 @@ TEST_F(ReplaceFileWindowsTest, BothSeparatorsLeadToTheFile) {
     EXPECT_EQ(Refusal(m_folder.Path("in\\a")), "replaced");
 
     EXPECT_EQ(m_folder.Read("in/a"), "new");
+}
+
+TEST_F(ReplaceFileWindowsTest, FileMayBeOnAShare) {
+    NEEDS_A_SHARE_OF(m_folder.Path(""));
+    m_folder.Write("a", "old");
+
+    EXPECT_EQ(Refusal(support::withBackslashes(support::onShare(m_folder.Path("a")))), "replaced");
+
+    EXPECT_EQ(m_folder.Read("a"), "new");
+    EXPECT_EQ(m_folder.Names(), Names{"a"});
+}
+
+TEST_F(ReplaceFileWindowsTest, ShareThatIsNotThereIsAnExceptionWithThePath) {
+    const std::string path = "//no-such-server.invalid/images/a";
+
+    EXPECT_EQ(Refusal(path).compare(0, path.size() + 2, path + ": "), 0) << Refusal(path);
 }

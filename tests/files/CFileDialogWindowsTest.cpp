@@ -2,11 +2,14 @@
 
 #include "FileDialogTest.h"
 #include "FileExtension.h"
+#include "Share.h"
 
 #include <algorithm>
 
 // What paths and permissions are on Windows only.
 
+using support::onShare;
+using support::withBackslashes;
 using TEVU::CFileDialog;
 
 namespace {
@@ -16,11 +19,6 @@ const unsigned c_writable = 0666;
 
 class CFileDialogWindowsTest : public FileDialogTest {
 protected:
-    static std::string withBackslashes(std::string path) {
-        std::replace(path.begin(), path.end(), '/', '\\');
-        return path;
-    }
-
     /// "C:/"
     std::string drive() const { return dir.path().substr(0, 3); }
 
@@ -53,6 +51,52 @@ TEST_F(CFileDialogWindowsTest, ShareThatIsNotThereIsPassedOver) {
     remember("loadingdir", "//no-such-server.invalid/images");
 
     expectStartIn(home());
+}
+
+TEST_F(CFileDialogWindowsTest, StartsInARememberedFolderOnAShare) {
+    NEEDS_A_SHARE_OF(dir.path());
+    const std::string folder = onShare(dir.makeFolder("images"));
+    remember("loadingdir", withBackslashes(folder));
+
+    expectStartIn(folder);
+}
+
+TEST_F(CFileDialogWindowsTest, FolderOnAShareIsRememberedWithSlashes) {
+    NEEDS_A_SHARE_OF(dir.path());
+    const std::string path = onShare(makeFile("images/a.tif"));
+    user.expectFileDialog({}).choose(withBackslashes(path));
+    CFileDialog dialog;
+
+    EXPECT_TRUE(dialog.GetOpenFileName(allFiles, CFileDialog::UseWorkingDir));
+
+    EXPECT_EQ(dialog.FilePath(), path);
+    const Lines lines = remembered();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "loadingdir=" + onShare(dir.path("images"))),
+              1);
+}
+
+TEST_F(CFileDialogWindowsTest, ProposalOnAShareIsNoRelativeOneAndGetsItsExtension) {
+    NEEDS_A_SHARE_OF(dir.path());
+    const std::string folder = onShare(dir.makeFolder("results"));
+    user.expectFileDialog(saveIn(folder, "scan.png")).accept();
+    CFileDialog dialog;
+
+    EXPECT_TRUE(save(dialog, withBackslashes(folder) + "\\scan"));
+
+    EXPECT_EQ(dialog.FilePath(), folder + "/scan.png");
+    EXPECT_EQ(listOf(dir.path("results")), Lines()); // the probe has left nothing
+}
+
+TEST_F(CFileDialogWindowsTest, ReadOnlyFileOnAShareIsNotWritable) {
+    NEEDS_A_SHARE_OF(dir.path());
+    const QString name = toText(withBackslashes(onShare(makeFile("a.png"))));
+    dir.setPermissions("a.png", c_readOnly);
+
+    EXPECT_TRUE(CFileDialog::IsFileReadable(name, nullptr, true));
+    EXPECT_FALSE(CFileDialog::IsFileWritable(name, nullptr, true));
+
+    dir.setPermissions("a.png", c_writable);
+    EXPECT_TRUE(CFileDialog::IsFileWritable(name, nullptr, true));
 }
 
 TEST_F(CFileDialogWindowsTest, ProposalWithADriveIsNoRelativeOne) {

@@ -1,5 +1,6 @@
 #include "ImageFiles.h"
 
+#include <Share.h>
 #include <windows.h>
 
 // The read-only attribute, and files that others hold open.
@@ -41,4 +42,14 @@ TEST_F(CImageFileWindowsTest, BothSeparatorsLeadToTheFile) {
     write(patterned(Type::eUInt8, CSize(2, 3)), "in\\a.tif");
 
     EXPECT_EQ(read("in/a.tif").Size(), CSize(2, 3));
+}
+
+TEST_F(CImageFileWindowsTest, FileMayBeOnAShare) {
+    NEEDS_A_SHARE_OF(dir.path());
+    const std::string path = support::withBackslashes(support::onShare(dir.path("a.tif")));
+
+    CImageFile::Write(patterned(Type::eUInt8, CSize(2, 3)), path);
+
+    EXPECT_EQ(CImageFile::Read(path).Size(), CSize(2, 3));
+    EXPECT_EQ(read("a.tif").Size(), CSize(2, 3));
 }

@@ -1,4 +1,7 @@
-// What of the widgets' classes must be the library's own object, and no copy in the program.
+// What of the widgets' classes must be the library's own object, and no copy in the program; and what a program calls
+// that includes Windows' own header, which makes macros of some of the names.
+
+#include <windows.h>
 
 #include "AllWidgets.h"
 #include "LibraryFile.h"
@@ -37,4 +40,12 @@ TEST(ConstantsWindowsTest, OfTheDialogsAreThoseInTheLibrary) {
               library().Address("_ZN4TEVU19CHeaderFieldsWidget17m_cQtDoubleFormatE"));
     EXPECT_EQ(&CHeaderFieldsWidget::m_nQtStringPrecision,
               library().Address("_ZN4TEVU19CHeaderFieldsWidget20m_nQtStringPrecisionE"));
+}
+
+TEST(NamesWindowsTest, ThatTheSystemHasTooAreTheLibrarysOwn) {
+    const auto open = &CFileDialog::GetOpenFileName;
+    const auto save = &CFileDialog::GetSaveFileName;
+
+    EXPECT_NE(open, nullptr);
+    EXPECT_NE(save, nullptr);
 }
