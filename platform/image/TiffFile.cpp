@@ -3,10 +3,13 @@
 #include <ruqlib2core/CException.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
+#include <thread>
 
 namespace TEVU {
 
@@ -20,6 +23,16 @@ std::string formatted(const char* format, va_list arguments) {
 
 CTiffFile* fileOf(thandle_t self) {
     return static_cast<CTiffFile*>(self);
+}
+
+/// Whether the file that was to be opened is one that another program has open and does not share; on Windows.
+bool isHeldByAnother() {
+#ifdef _WIN32
+    const unsigned long sharingViolation = 32;
+    return _doserrno == sharingViolation;
+#else
+    return false;
+#endif
 }
 
 using Options = std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)>;
@@ -44,9 +57,17 @@ CTiffFile::~CTiffFile() {
 
 void CTiffFile::openFile(const std::string& path, const char* mode) {
     const auto how = mode[0] == 'r' ? std::ios::in : std::ios::in | std::ios::out | std::ios::trunc;
-    if (!m_file.open(std::filesystem::u8path(path), how | std::ios::binary))
-        throw CException("CTiffFile",
-                         "it cannot be opened: " + std::generic_category().message(errno));
+    int error = 0;
+    // For a second, as long as replacing a file is tried: nobody shares it while it is being replaced.
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        if (m_file.open(std::filesystem::u8path(path), how | std::ios::binary))
+            return;
+        error = errno;
+        if (!isHeldByAnother())
+            break;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    throw CException("CTiffFile", "it cannot be opened: " + std::generic_category().message(error));
 }
 
 void CTiffFile::openTiff(const std::string& path, const char* mode) {

@@ -89,6 +89,15 @@ void writeImages(ChildProcess::Output&, const ChildProcess::Arguments& arguments
         StoredImage::SaveAs(arguments[0], std::stoi(arguments[1]));
 }
 
+/// The arguments: the image's file, and how often to look. Ends with an exception when an image cannot be read.
+void readImages(ChildProcess::Output& output, const ChildProcess::Arguments& arguments) {
+    for (int left = std::stoi(arguments[1]); left > 0; --left) {
+        const int pixel = StoredImage::PixelOf(arguments[0]);
+        if (pixel < 0)
+            output.write("pixels of two images\n");
+    }
+}
+
 using Writers = std::vector<std::unique_ptr<ChildProcess>>;
 
 /// Eight processes; the arguments of each are the path, its number and \a count.
@@ -142,7 +151,12 @@ TEST(ManyWriters, OfOneImageEachStoreItWhole) {
     const StoredImage stored;
     const int count = rounds(40);
 
+    ChildProcess reader(readImages, {stored.Path(), std::to_string(10 * count)});
     expectThatAllEndWell(startWriters(writeImages, stored.Path(), count));
+    const auto seen = reader.wait();
+
+    EXPECT_EQ(seen.errors, "");
+    EXPECT_EQ(seen.output, "");
 
     EXPECT_LT(stored.Pixel(), c_nWriters);
     EXPECT_GE(stored.Pixel(), 0);

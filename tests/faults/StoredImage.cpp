@@ -31,8 +31,8 @@ void StoredImage::SaveAs(const std::string& path, int pixel) {
     CImageFile::Write(image, path);
 }
 
-int StoredImage::Pixel() const {
-    const CImage image = CImageFile::Read(Path());
+int StoredImage::PixelOf(const std::string& path) {
+    const CImage image = CImageFile::Read(path);
     const unsigned char first = *image.Data();
     const auto same = std::count(image.Data(), image.Data() + image.ByteCount(), first);
     return static_cast<std::size_t>(same) == std::size_t(64) * 64 ? first : -1;

@@ -25,7 +25,9 @@ public:
 
     void Save(int pixel) const; ///< An image of this pixel, from 0 to 255, everywhere.
     static void SaveAs(const std::string& path, int pixel);
-    int Pixel() const; ///< The one pixel of the stored image; -1 when they differ.
+    int Pixel() const { return PixelOf(Path()); }
+    static int
+    PixelOf(const std::string& path); ///< The one pixel of an image; -1 when they differ.
 
 private:
     TestFolder m_folder;

@@ -126,6 +126,8 @@ TEST_F(CFileDialogWindowsTest, ExtensionIsFoundBehindDrivesAndShares) {
     EXPECT_EQ(TEVU::missingExtension("C:\\images\\scan.png", "Images (*.png)"), "");
     EXPECT_EQ(TEVU::missingExtension("C:\\images\\scan", "Images (*.png)"), ".png");
     EXPECT_EQ(TEVU::missingExtension("\\\\server\\images\\scan.PNG", "Images (*.png)"), "");
+    EXPECT_EQ(TEVU::missingExtension("\\\\server\\images.v2\\scan", "Images (*.png)"), ".png");
+    EXPECT_EQ(TEVU::missingExtension("//server/images.v2/scan.png", "Images (*.png)"), "");
     EXPECT_EQ(TEVU::fileExtension("C:\\images\\scan.stl.gz"), "stl.gz");
 }
 
