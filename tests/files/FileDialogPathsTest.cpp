@@ -12,7 +12,7 @@
 /// Every way through the flows, by every combination of answers to the boxes of each pass. Up to three
 /// passes to open and two to save, each series is followed by each of its endings; what is longer, by one
 /// of them. Files and dialogs are stood in for, so that tens of thousands of runs are affordable, and what
-/// the library asks the toolkit for is compared word by word. FileDialogRealPathsTest goes through real
+/// the library asks the toolkit for is compared word by word. FileDialogRealPathsPosixTest goes through real
 /// dialogs.
 namespace {
 

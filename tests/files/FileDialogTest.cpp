@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <qfile.h>
 #include <qt3/Text.h>
 #include <ruqlib2core/CRegistry.h>
@@ -122,9 +123,11 @@ void FileDialogTest::rememberNumber(const std::string& key) {
 }
 
 FileDialogTest::Lines FileDialogTest::remembered() {
+    // Not entry by entry: each look at the registry is one at its file, which takes milliseconds under wine.
+    const std::unique_ptr<const TEVU::CValueMap> entries(CRegistry::Obj().Clone());
     Lines lines;
-    for (const TEVU::CValue_Key& key : CRegistry::Obj().Keys())
-        lines.push_back(shortKey(key) + '=' + CRegistry::Obj().GetString(key, "(no string)"));
+    for (const TEVU::CValue_Key& key : entries->Keys())
+        lines.push_back(shortKey(key) + '=' + entries->GetString(key, "(no string)"));
     std::sort(lines.begin(), lines.end());
     return lines;
 }
