@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 #include <iostream>
 #include <random>
+#include <thread>
 
 using namespace TEVU;
 using support::ChildProcess;
@@ -39,12 +40,17 @@ void saveForEver(ChildProcess::Output& output, const ChildProcess::Arguments& pa
     }
 }
 
-/// Busy, because a process that sleeps is waken up at multiples of a millisecond at best on Windows.
-void rest(unsigned microseconds) {
+/// The moment for the kill, which is random and has no other purpose.
+void rest(std::chrono::microseconds duration) {
+#ifdef _WIN32
+    // Busy: who sleeps is woken at multiples of a millisecond at best.
     using Clock = std::chrono::steady_clock;
-    const Clock::time_point end = Clock::now() + std::chrono::microseconds(microseconds);
+    const Clock::time_point end = Clock::now() + duration;
     while (Clock::now() < end) {
     }
+#else
+    std::this_thread::sleep_for(duration);
+#endif
 }
 
 /// Lets \a task run in a process and kills it; the last number that was acknowledged, or 0.
@@ -53,7 +59,7 @@ long lastBeforeTheKill(ChildProcess::Task task, const std::string& path, std::mt
     long last = 0;
     for (unsigned awaited = random() % (c_nMostAwaited + 1); awaited > 0; --awaited)
         last = std::stol(process.readLine());
-    rest(random() % c_nLongestRest);
+    rest(std::chrono::microseconds(random() % c_nLongestRest));
     process.kill();
     for (std::string line = process.readLine(); !line.empty(); line = process.readLine())
         last = std::stol(line);
