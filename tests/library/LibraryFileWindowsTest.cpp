@@ -72,10 +72,12 @@ std::vector<std::string> membersIn(const std::string& header, const std::string&
     return members;
 }
 
-/// Without a toolkit the library has a few classes only.
+/// Without a toolkit the library has a few classes only, and without libtiff there are no files.
 bool isBuilt(const std::filesystem::path& header) {
     static const std::set<std::string> plain = {"CAutoDialogPluginWrapper.h", "CAvailableImages.h",
                                                 "StUnit.h"};
+    if (header.filename() == "CImageFile.h")
+        return IMAGE_HAS_FILES;
     return RUQGUI_HAS_WIDGETS || header.parent_path() != c_ownHeaders ||
            plain.count(header.filename().string()) > 0;
 }
@@ -118,7 +120,7 @@ TEST_P(ExportsWindowsTest, NothingOfOtherLibrariesIsInTheTable) {
 INSTANTIATE_TEST_SUITE_P(Of, ExportsWindowsTest,
                          testing::Values(StLibrary{"ruqgui.dll", c_ownHeaders, 3},
                                          StLibrary{"ruqlib2core.dll", CORE_HEADERS, 15},
-                                         StLibrary{"ruqlib2image.dll", IMAGE_HEADERS, 6}),
+                                         StLibrary{"ruqlib2image.dll", IMAGE_HEADERS, 5}),
                          [](const auto& test) {
                              return std::filesystem::path(test.param.name).stem().string();
                          });
