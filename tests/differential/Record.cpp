@@ -1,7 +1,5 @@
 #include "Record.h"
 
-#include "Digest.h"
-
 #include <fstream>
 #include <stdexcept>
 
@@ -43,18 +41,6 @@ void Record::write(const std::string& folder, const std::string& className) cons
         lines << line << '\n';
     if (!all.flush() || !lines.flush())
         throw std::runtime_error("cannot write into " + folder);
-}
-
-std::string blockDigest(Cases& cases, std::uint64_t block, std::string* broken) {
-    Digest digest;
-    const std::uint64_t count = c_nBlockLength / c_nCaseLength;
-    for (std::uint64_t index = block * count; index < (block + 1) * count; ++index) {
-        const std::string verdict = verdictOn(cases.log(index));
-        if (isBroken(verdict) && broken->empty())
-            *broken = "case " + std::to_string(index) + ": " + verdict;
-        digest.add(verdict);
-    }
-    return digest.text();
 }
 
 } // namespace differential

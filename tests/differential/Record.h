@@ -1,8 +1,7 @@
 #ifndef RUQGUI_TESTS_DIFFERENTIAL_RECORD_H
 #define RUQGUI_TESTS_DIFFERENTIAL_RECORD_H
 
-#include "Cases.h"
-
+#include <Recorder.h>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -20,9 +19,6 @@ struct Record {
     static Record read(const std::string& folder, const std::string& className);
     void write(const std::string& folder, const std::string& className) const;
 };
-
-/// The digest of a block out of the verdicts on its cases.
-std::string blockDigest(Cases& cases, std::uint64_t block, std::string* broken);
 
 } // namespace differential
 

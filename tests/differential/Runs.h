@@ -14,11 +14,12 @@ namespace differential {
 bool runSummary(Cases& cases, const Options& options);
 bool runText(Cases& cases, const Options& options);
 bool runRecord(Cases& cases, const Options& options);
-bool runCheck(Cases& cases, const Options& options);
 bool runAgainst(Cases& cases, const Options& options);
 bool runReplay(Cases& cases, const Options& options);
 
-/// Every case in a second process, which \a program starts.
+/// A broken promise is reduced in a second process, which \a program starts.
+bool runCheck(Cases& cases, const Options& options, const std::string& program);
+/// Every case in such a process.
 bool runIsolated(Cases& cases, const Options& options, const std::string& program);
 
 } // namespace differential

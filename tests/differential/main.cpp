@@ -22,7 +22,7 @@ bool runClass(Cases& cases, const Options& options, const std::string& program) 
     case Options::Record:
         return runRecord(cases, options);
     case Options::Check:
-        return runCheck(cases, options);
+        return runCheck(cases, options, program);
     case Options::Against:
         return runAgainst(cases, options);
     case Options::Replay:
