@@ -8,7 +8,14 @@ set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 
 if(NOT RUQGUI_WINDOWS_PREFIX)
-    set(RUQGUI_WINDOWS_PREFIX $ENV{HOME}/.cache/ruqgui-windows/prefix)
+    # As packaging/windows/setup.sh tells it to the scripts.
+    if(NOT "$ENV{RUQGUI_WINDOWS_CACHE}" STREQUAL "")
+        set(RUQGUI_WINDOWS_PREFIX $ENV{RUQGUI_WINDOWS_CACHE}/prefix)
+    elseif(NOT "$ENV{XDG_CACHE_HOME}" STREQUAL "")
+        set(RUQGUI_WINDOWS_PREFIX $ENV{XDG_CACHE_HOME}/ruqgui-windows/prefix)
+    else()
+        set(RUQGUI_WINDOWS_PREFIX $ENV{HOME}/.cache/ruqgui-windows/prefix)
+    endif()
 endif()
 # The trial builds that test the compilers are configured with this file too.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES RUQGUI_WINDOWS_PREFIX)

@@ -3,6 +3,9 @@
 
 project_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
+# A service or a bare container may have none; then that of the user's entry.
+export HOME=${HOME:-~}
+
 say() { printf '== %s\n' "$*"; }
 
 fail() {

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Sourced by test, after setup.sh: the long versions of what ctest and .ci/run do for seconds. Each part
+# Sourced by test, after setup.sh and fuzz.sh: the long versions of what ctest and .ci/run do for seconds. Each part
 # prints its seed and what it counted.
 
 soak_parts=(differential rubbish fuzz faults)
@@ -35,15 +35,6 @@ in_memory() {
     if [ -w /dev/shm ]; then echo /dev/shm; else echo "${TMPDIR:-/tmp}"; fi
 }
 
-# fuzz_target NAME RUNS: new inputs go to a folder of the build.
-fuzz_target() {
-    local found=build/soak/$1
-    mkdir -p "$found"
-    say "Fuzzing $1: $2 runs, seed $soak_seed"
-    TMPDIR=$(in_memory) "build/fuzz/bin/fuzz_${1//-/_}" -runs="$2" -seed="$soak_seed" -max_len=400 -print_final_stats=1 \
-        -artifact_prefix=build/soak/ "$found" "fuzz/corpus/$1"
-}
-
 soak_fuzz() {
     local name runs failed=0
     build fuzz
@@ -51,7 +42,8 @@ soak_fuzz() {
         name=${name##*/}
         runs=100000000
         [ "$name" != image-file ] || runs=1000000
-        fuzz_target "$name" "$(part_of "$runs")" || failed=1
+        say "Fuzzing $name: $(part_of "$runs") runs, seed $soak_seed"
+        TMPDIR=$(in_memory) fuzz "$name" build/soak -runs="$(part_of "$runs")" -seed="$soak_seed" || failed=1
     done
     return "$failed"
 }
