@@ -28,10 +28,10 @@ public:
     CAutoDialogPluginWrapper(const CAutoDialogPluginWrapper& other);
     CAutoDialogPluginWrapper& operator=(const CAutoDialogPluginWrapper& other);
 
-    /// The description of the dialog, new; the caller owns it.
+    /// The description of the dialog, new; the caller owns it. Null is none.
     virtual CValue* GetDialogValue() = 0;
 
-    /// The current parameters, new; the caller owns them.
+    /// The current parameters, new; the caller owns them. Null is none.
     virtual CValue* GetParameterValue() = 0;
 
     /// Takes the edited parameters, which live as long as the call. Not called after a cancel.

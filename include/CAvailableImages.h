@@ -31,7 +31,7 @@ class CValueMap;
 /// blank unless it is 1.
 ///
 /// Invariants:
-/// 1. The images are not owned, and never null.
+/// 1. The images are not owned, and never null. They are looked at during a call only.
 /// 2. Names are not empty. Of several images with the same name, the last one counts.
 /// 3. A filter that is on and has nothing to allow lets nothing through.
 ///
@@ -39,16 +39,18 @@ class CValueMap;
 /// next call is smaller than what is returned, a tenth of it when names have beginnings in common.
 class RUQGUI_EXPORT CAvailableImages {
 public:
+    /// \param checkType and \a checkSize: whether only images of an allowed type, of an allowed size pass
     CAvailableImages(bool checkType, bool checkSize);
     CAvailableImages(const CAvailableImages& other);
     CAvailableImages& operator=(const CAvailableImages&) = delete;
     ~CAvailableImages();
 
-    void addAllowedType(const IImage::CType& type);
-    void addAllowedSize(const CSize& size);
+    void addAllowedType(const IImage::CType& type); ///< For the calls to come.
+    void addAllowedSize(const CSize& size);         ///< As addAllowedType(); of the same dimension.
 
     /// The images of \a input that pass, by name. Without a list of images in the input, the result of
-    /// the call before is returned again. Elements of another form are left out; none is an error.
+    /// the call before is returned again, also when its images are there no more. Elements of another
+    /// form are left out; none is an error.
     /// \throws nothing of its own: pointers are unwrapped once their type is known, so that
     ///         UnwrapPointer() has nothing to refuse. After std::bad_alloc a call without a list returns
     ///         some of the images, or none.

@@ -20,6 +20,7 @@ namespace TEVU {
 /// Invariants:
 /// 1. The text is the colour's name, such as "#0000ff".
 /// 2. Outline and name are white on dark colours (HSV value below 130) and black on others.
+/// 3. A colour that is not valid looks as black does; color() gives it back as it was set.
 ///
 /// GUI thread only. A copy has the state of its original; clicking it does not open the dialog.
 class RUQGUI_EXPORT CColorPushButton : public qt3::PushButton {

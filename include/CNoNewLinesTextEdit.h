@@ -26,7 +26,8 @@ public:
 public slots:
     /// Pastes, then removes every carriage return and line feed of the whole text and sets it anew:
     /// textChanged() comes also when nothing was pasted, the cursor goes to the start, and nothing can
-    /// be undone. Every way of pasting comes here: keys, context menu, middle button.
+    /// be undone; only a read-only edit that keeps its text may stay as it is. Every way of pasting comes
+    /// here: keys, context menu, middle button. Dropped text does not.
     void paste() override;
 };
 

@@ -39,8 +39,8 @@ struct RUQGUI_EXPORT CValueMapFileVersionHandling {
     /// Whether the map has an identifier. One that is no string is none.
     bool IsIdAvailable(const CValueMap& map) const;
 
-    /// The map's identifier. \throws CException when it has none.
-    std::string GetId(const CValueMap& map) const;
+    /// The map's identifier. \throws CException when it has none, as IsIdOk() and IsIdCompatible() do.
+    static std::string GetId(const CValueMap& map);
 
     bool IsIdOk(const CValueMap& map) const;         ///< The same identifier.
     bool IsIdCompatible(const CValueMap& map) const; ///< An identifier of the same family.
@@ -52,7 +52,7 @@ struct RUQGUI_EXPORT CValueMapFileVersionHandling {
     /// an identifier passes as it is. For each of these a box is shown, with the main widget as its
     /// parent, and its text is written to standard error, after \a context and a colon:
     /// - a file of another family: refused;
-    /// - another file of the same family: the user may load it anyway, or cancel;
+    /// - another file of the same family: the user may load it anyway, or cancel, as Escape does;
     /// - a newer version: a notice.
     /// \param fileName and \a formatName are for the texts; null counts as empty, as for \a context
     /// \return false when the file must not be loaded; the map is then as it was.

@@ -101,7 +101,7 @@ bool CValueMapFileVersionHandling::IsIdAvailable(const CValueMap& map) const {
     return hasText(map, c_sId);
 }
 
-std::string CValueMapFileVersionHandling::GetId(const CValueMap& map) const {
+std::string CValueMapFileVersionHandling::GetId(const CValueMap& map) {
     return map.EntryString(c_sId);
 }
 

@@ -1,5 +1,7 @@
 #include "CAutoDialogPluginWrapper.h"
 
+#include <cstddef>
+#include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -63,6 +65,7 @@ struct StScript {
     std::function<void(CValueMap&)> init = [](CValueMap&) {};
     std::function<void(CValueMap&)> setup = [](CValueMap&) {};
     std::function<void(CValueMap&)> execute = [](CValueMap&) {};
+    std::function<void()> destroy = [] {};
 };
 
 StScript* g_script = nullptr;
@@ -77,6 +80,7 @@ public:
 
     ~CScriptedPlugin() override {
         g_script->log.push_back("destroy");
+        g_script->destroy();
         --g_script->nPlugins;
     }
 
@@ -123,6 +127,20 @@ public:
     std::function<CValue*()> m_parameters = [] { return mapWith("gain", 2); };
     std::function<bool(CValueMap&)> m_accept = [](CValueMap&) { return true; };
 };
+
+/// What comes behind the operations of the base in the table of virtual functions.
+class CLongerDialog : public CDialog {
+public:
+    virtual void Afterwards() {}
+};
+
+/// Where a virtual function lies in the table of its class, as all compilers but Microsoft's have it.
+template <class Function>
+std::ptrdiff_t slot(Function function) {
+    std::ptrdiff_t place = 0;
+    std::memcpy(&place, &function, sizeof place);
+    return place / static_cast<std::ptrdiff_t>(sizeof(void*));
+}
 
 [[noreturn]] void fail() {
     throw std::runtime_error("no more");
@@ -172,6 +190,15 @@ const char c_execute[] = "Execute({config user: true, parameters: {gain: 2}})";
 static_assert(std::is_abstract_v<TEVU::CAutoDialogPluginWrapper>);
 static_assert(std::has_virtual_destructor_v<TEVU::CAutoDialogPluginWrapper>);
 static_assert(std::is_copy_constructible_v<CDialog> && std::is_copy_assignable_v<CDialog>);
+
+// An application that was built before finds each by its place.
+TEST(AutoDialogOperations, LieInTheirOrderBeforeTheDestructor) {
+    const std::ptrdiff_t first = slot(&CLongerDialog::GetDialogValue);
+    EXPECT_EQ(first, 0);
+    EXPECT_EQ(slot(&CLongerDialog::GetParameterValue), first + 1);
+    EXPECT_EQ(slot(&CLongerDialog::SetParameterValue), first + 2);
+    EXPECT_GT(slot(&CLongerDialog::Afterwards), first + 3);
+}
 
 TEST_F(AutoDialog, CallsComeInTheirOrder) {
     EXPECT_TRUE(m_dialog.show());
@@ -306,6 +333,20 @@ TEST_F(AutoDialog, InitialisationMapLivesUntilTheDialogIsOver) {
 TEST_F(AutoDialog, PluginLivesUntilTheParametersAreTaken) {
     m_dialog.m_accept = [&](CValueMap&) { return m_script.nPlugins == 1; };
     EXPECT_TRUE(m_dialog.show());
+}
+
+TEST_F(AutoDialog, MapsGoBeforeThePluginWhoseValuesTheyMayHold) {
+    std::vector<int> left;
+    markMaps();
+    m_script.destroy = [&] { left.push_back(CountedValue::s_nAlive); };
+
+    EXPECT_TRUE(m_dialog.show());
+    m_script.execute = [](CValueMap& setup) { setup.SetEntry("cancelled", new CValueBool(true)); };
+    EXPECT_FALSE(m_dialog.show());
+    m_script.execute = [](CValueMap&) { fail(); };
+    EXPECT_THROW(m_dialog.show(), std::runtime_error);
+
+    EXPECT_EQ(left, std::vector<int>(3, 0));
 }
 
 TEST_F(AutoDialog, DescriptionNeedsNoParticularType) {

@@ -187,6 +187,10 @@ TEST(FileVersionHandling, GetIdGivesTheTextOfTheMap) {
               "map's own");
 }
 
+TEST(FileVersionHandling, GetIdNeedsNoFormat) {
+    EXPECT_EQ(CValueMapFileVersionHandling::GetId(stamped("map's own", "2")), "map's own");
+}
+
 TEST(FileVersionHandling, MapWithoutIdMakesEveryQuestionAboutItThrow) {
     const CValueMapFileVersionHandling format("abc", "1");
     const CValueMap map;

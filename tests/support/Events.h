@@ -82,6 +82,9 @@ unsigned pixel(QWidget* widget, int x, int y);
 
 void setClipboard(const QString& text);
 
+/// A plain text from another program is dropped at \a at.
+void drop(QWidget* widget, QPoint at, const QString& text);
+
 /// UTF-8, never null.
 std::string text(const QString& string);
 

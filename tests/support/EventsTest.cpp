@@ -160,6 +160,15 @@ TEST(Events, ClipboardIsPasted) {
     EXPECT_EQ(support::text(edit.text()), "from elsewhere");
 }
 
+TEST(Events, DroppedTextArrives) {
+    QLineEdit edit(nullptr);
+    support::show(&edit);
+
+    support::drop(&edit, QPoint(5, 5), "from elsewhere");
+
+    EXPECT_EQ(support::text(edit.text()), "from elsewhere");
+}
+
 TEST(Events, EntryOfAContextMenuIsChosen) {
     QLineEdit edit(nullptr);
     support::show(&edit);

@@ -196,6 +196,13 @@ TEST(TextEditPasteTest, CarriageReturnsBecomeLineBreaks) {
     EXPECT_EQ(ascii(pasting.edit.text()), "a\nb\nc\nd");
 }
 
+TEST(TextEditPasteTest, DropIsNoPaste) {
+    StPasting pasting("clipboard");
+    support::drop(pasting.edit.viewport(), QPoint(5, 5), "dropped\ntext");
+    EXPECT_EQ(pasting.edit.m_vCalls, Lines());
+    EXPECT_EQ(ascii(pasting.edit.text()), "dropped\ntext");
+}
+
 TEST(TextEditPasteTest, PastedMarkupStaysAsCopied) {
     StPasting pasting("<b>x</b>\r\n");
     pasting.edit.paste();

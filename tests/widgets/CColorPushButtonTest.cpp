@@ -191,6 +191,13 @@ TEST_F(ColorButton, ValueOf130IsTheFirstWithBlackText) {
     }
 }
 
+TEST_F(ColorButton, NoColorLooksBlack) {
+    m_button.setColor(QColor());
+    EXPECT_FALSE(m_button.color().isValid());
+    EXPECT_EQ(state(&m_button), "#000000 #000000 #000000 #ffffff");
+    EXPECT_EQ(difference(support::grab(&m_button), swatch(m_button, c_black, c_white)), "");
+}
+
 TEST_F(ColorButton, ColorGivesACopy) {
     QColor color = m_button.color();
     color.setRgb(1, 2, 3);

@@ -56,8 +56,10 @@ TEST_F(NoNewLines, StartsAsThePlainEditDoes) {
     EXPECT_STREQ(edit.name(), "title");
     EXPECT_EQ(ascii(edit.text()), "");
     EXPECT_EQ(edit.isReadOnly(), plain.isReadOnly());
+    EXPECT_EQ(edit.isUndoRedoEnabled(), plain.isUndoRedoEnabled());
+    EXPECT_EQ(edit.tabChangesFocus(), plain.tabChangesFocus());
+    EXPECT_EQ(edit.frameStyle(), plain.frameStyle());
     EXPECT_EQ(edit.focusPolicy(), plain.focusPolicy());
-
     EXPECT_EQ(edit.sizePolicy(), plain.sizePolicy());
 }
 
@@ -253,6 +255,14 @@ TEST_F(NoNewLines, ReadOnlyEditTakesNothingInButIsCleanedByACall) {
 TEST_F(NoNewLines, TextSetByCodeKeepsItsLineBreaks) {
     set("a\nb");
     EXPECT_EQ(text(), "a\nb");
+    m_edit.append("c\nd");
+    EXPECT_EQ(text(), "a\nb\nc\nd");
+}
+
+TEST_F(NoNewLines, DroppedTextKeepsItsLineBreaks) {
+    set("a\nb");
+    support::drop(m_edit.viewport(), QPoint(5, 5), "x\ny");
+    EXPECT_EQ(text(), "x\nya\nb");
 }
 
 TEST_F(NoNewLines, CopyHasTheTextAndPastesIntoItself) {

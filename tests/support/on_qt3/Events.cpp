@@ -4,6 +4,7 @@
 
 #include <qapplication.h>
 #include <qclipboard.h>
+#include <qdragobject.h>
 #include <qpixmap.h>
 
 namespace support {
@@ -49,6 +50,19 @@ void sendKeyEvent(QEvent::Type type, QWidget* widget, int key, Modifier modifier
                     QString::fromLatin1(text));
     QApplication::sendEvent(widget, &event);
 }
+
+/// Has its text with it, where the toolkit's own event asks the X server.
+class TextDrop : public QDropEvent {
+public:
+    TextDrop(QPoint at, const QString& text) : QDropEvent(at), m_text(text) {}
+
+    const char* format(int index) const override { return m_text.format(index); }
+    bool provides(const char* type) const override { return m_text.provides(type); }
+    QByteArray encodedData(const char* type) const override { return m_text.encodedData(type); }
+
+private:
+    QTextDrag m_text;
+};
 
 } // namespace
 
@@ -123,6 +137,11 @@ void setClipboard(const QString& text) {
     learnDisplayTime();
     QApplication::clipboard()->setText(text, QClipboard::Clipboard);
     processEvents();
+}
+
+void drop(QWidget* widget, QPoint at, const QString& text) {
+    TextDrop event(at, text);
+    QApplication::sendEvent(widget, &event);
 }
 
 std::string text(const QString& string) {

@@ -3,7 +3,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QWheelEvent>
 
@@ -125,6 +128,15 @@ QImage grab(QWidget* widget) {
 void setClipboard(const QString& text) {
     QApplication::clipboard()->setText(text);
     processEvents();
+}
+
+void drop(QWidget* widget, QPoint at, const QString& text) {
+    QMimeData data;
+    data.setText(text);
+    QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(widget, &enter); // else the toolkit knows of no target
+    QDropEvent event(QPointF(at), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
 }
 
 std::string text(const QString& string) {
