@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,12 @@ TEST(MetaObjectTest, SignalsAreATableOfTheirOwn) {
     const CTables object;
     EXPECT_EQ(lines(qt3::signalTable(&object)),
               (Lines{"public happened(int,QString) count reason", "public ended()"}));
+}
+
+TEST(MetaObjectTest, FurtherEntriesAreThoseOfTheClassItself) {
+    EXPECT_EQ(qt3::furtherEntries(std::make_unique<CTables>().get()), 0);
+    EXPECT_EQ(qt3::furtherEntries(std::make_unique<specimen::CDescribed>().get()), 3);
+    EXPECT_EQ(qt3::furtherEntries(std::make_unique<specimen::CDerived>().get()), 0);
 }
 
 TEST(MetaObjectTest, ClassNamesAreQualified) {

@@ -80,6 +80,23 @@ private slots:
     void fifth();
 };
 
+/// Has all else that a meta-object can tell.
+class CDescribed : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("purpose", "test")
+    Q_PROPERTY(int number READ number)
+    Q_ENUMS(Fruit)
+
+public:
+    enum Fruit { Apple, Pear };
+    int number() const { return 1; }
+};
+
+/// Adds nothing to it.
+class CDerived : public CDescribed {
+    Q_OBJECT
+};
+
 } // namespace specimen
 
 #endif

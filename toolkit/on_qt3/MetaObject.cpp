@@ -43,6 +43,12 @@ std::vector<Method> signalTable(const QObject* object) {
     return table;
 }
 
+int furtherEntries(const QObject* object) {
+    const QMetaObject* const metaObject = object->metaObject();
+    return metaObject->numProperties(false) + metaObject->numEnumerators(false) +
+           metaObject->numClassInfo(false);
+}
+
 std::string className(const QObject* object) {
     return object->className();
 }

@@ -35,6 +35,13 @@ std::vector<Method> signalTable(const QObject* object) {
     return ownMethods(object, QMetaMethod::Signal);
 }
 
+int furtherEntries(const QObject* object) {
+    const QMetaObject* const metaObject = object->metaObject();
+    return metaObject->propertyCount() - metaObject->propertyOffset() +
+           metaObject->enumeratorCount() - metaObject->enumeratorOffset() +
+           metaObject->classInfoCount() - metaObject->classInfoOffset();
+}
+
 std::string className(const QObject* object) {
     return object->metaObject()->className();
 }

@@ -28,6 +28,9 @@ RUQGUI_EXPORT std::vector<Method> slotTable(const QObject* object);
 /// As slotTable(). A signal is Public, whatever the section that it is declared after.
 RUQGUI_EXPORT std::vector<Method> signalTable(const QObject* object);
 
+/// How many properties, enumerations and class informations the object's own class declares.
+RUQGUI_EXPORT int furtherEntries(const QObject* object);
+
 RUQGUI_EXPORT std::string className(const QObject* object);
 
 /// The class of the meta-object above; empty for a QObject.
