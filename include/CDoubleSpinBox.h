@@ -32,9 +32,10 @@ struct StDoubleSpinBoxPrivate;
 ///
 /// Users step with the buttons, with Up, Down and the mouse wheel (a step a notch), or type. What is
 /// typed is read back, "interpreted", on Return, Enter, Tab, when the editor loses the focus or is
-/// hidden, before a step, and by value(). Text that is neither a number nor the special text gives
-/// way to the text of the value in force; nothing is said. A number outside the range is clamped.
-/// Page Up and Page Down do nothing.
+/// hidden, before a step, by value(), and by all that shows the value anew: the setters of the range,
+/// of the texts, of wrapping and of the enabled state. setValue() alone drops it. Text that is neither
+/// a number nor the special text gives way to the text of the value in force; nothing is said. A
+/// number outside the range is clamped. Page Up and Page Down do nothing.
 ///
 /// Invariants:
 /// 1. Those of CRangeControl.
@@ -62,7 +63,7 @@ public:
     /// What the buttons show.
     enum ButtonSymbols { UpDownArrows = 0, PlusMinus = 1 };
 
-    /// Range [0, 99], line step 1, value 0.
+    /// Range [0, 99], line step 1, page step 10, value 0.
     explicit CDoubleSpinBox(QWidget* parent = 0, const char* name = 0);
 
     /// The range as given, even when reversed; the absolute value of \a step as both steps; the
@@ -81,6 +82,7 @@ public:
     double maxValue() const;
     double lineStep() const;
 
+    // The virtual functions keep their order: programs find them by it.
     virtual QString prefix() const;
     virtual QString suffix() const;
     QString specialValueText() const;
@@ -104,10 +106,11 @@ public:
     QSize minimumSizeHint() const override;
 
     /// Moves the other end if it lies below. Whatever changes the range shows the value anew; when
-    /// that moves the value into the range, both signals follow.
+    /// that moves the value into the range, both signals follow. Pending text is interpreted and
+    /// announced, but then the value from before comes back, with both signals again.
     void setMinValue(double minimum);
     void setMaxValue(double maximum); ///< As setMinValue(), moving an end that lies above.
-    void setLineStep(double step);    ///< The absolute value counts.
+    void setLineStep(double step);    ///< The absolute value counts. The page step stays.
 
     /// The text to show instead of the number while the value is the minimum; empty for none.
     /// Without prefix and suffix it cannot be typed if it is no number: the validator is in the way.
@@ -116,7 +119,7 @@ public:
     /// On: a step that would pass an end goes to the other end, without carrying the rest over.
     virtual void setWrapping(bool on);
 
-    virtual void setButtonSymbols(ButtonSymbols symbols);
+    virtual void setButtonSymbols(ButtonSymbols symbols); ///< Nothing happens for those in force.
 
     /// Stays the caller's. Null: anything can be typed.
     virtual void setValidator(const QValidator* newValidator);
@@ -154,10 +157,11 @@ protected:
     /// As value() it interprets pending text.
     QString currentValueText();
 
-    virtual QString mapValueToText(double v);
-
     /// The number in the editor, alone or with prefix and suffix. Otherwise 0, and \a ok is false.
     virtual double mapTextToValue(bool* ok);
+
+    /// At most six significant digits, with an exponent for what is very large or small.
+    virtual QString mapValueToText(double v);
 
     /// Shows the value, puts the cursor before the suffix, paints the editor at once if it shows
     /// anything else, and enables the buttons that can step. Afterwards no text is pending.

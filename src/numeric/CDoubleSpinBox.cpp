@@ -338,10 +338,6 @@ QString CDoubleSpinBox::currentValueText() {
     return prefix() + mapValueToText(value()) + suffix();
 }
 
-QString CDoubleSpinBox::mapValueToText(double v) {
-    return numberText(v);
-}
-
 double CDoubleSpinBox::mapTextToValue(bool* ok) {
     bool bNumber = false;
     double number = numberOrZero(text(), &bNumber);
@@ -350,6 +346,10 @@ double CDoubleSpinBox::mapTextToValue(bool* ok) {
     if (ok)
         *ok = bNumber;
     return number;
+}
+
+QString CDoubleSpinBox::mapValueToText(double v) {
+    return numberText(v);
 }
 
 void CDoubleSpinBox::updateDisplay() {

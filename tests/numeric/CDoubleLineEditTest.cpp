@@ -73,6 +73,7 @@ TEST_F(CDoubleLineEdit, WithoutNumbersStartsEmptyAtZeroWithTwoDecimals) {
 TEST_F(CDoubleLineEdit, AnswersToItsNameAndSlots) {
     EXPECT_EQ(qt3::className(&m_edit), "TEVU::CDoubleLineEdit");
     EXPECT_EQ(qt3::superClassName(&m_edit), "QLineEdit");
+    EXPECT_EQ(qt3::furtherEntries(&m_edit), 0);
     EXPECT_TRUE(qt3::signalTable(&m_edit).empty());
 
     const std::vector<qt3::Method> slotList = qt3::slotTable(&m_edit);

@@ -3,9 +3,11 @@
 #include "CDoubleSpinBoxValidator.h"
 #include "Events.h"
 #include "Recorder.h"
+#include "VirtualPlaces.h"
 #include "Warnings.h"
 
 #include <cmath>
+#include <cstddef>
 #include <gtest/gtest.h>
 #include <memory>
 #include <qlineedit.h>
@@ -65,6 +67,32 @@ private:
         if (m_pCalls)
             m_pCalls->add(call);
     }
+};
+
+/// Counts the events of one type that come to a widget from now on.
+class CEventCount : public QObject {
+public:
+    CEventCount(QWidget* widget, QEvent::Type type) : m_eType(type) {
+        support::processEvents(); // what is due already does not count
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        m_nCount += event->type() == m_eType ? 1 : 0;
+        return false;
+    }
+
+    int take() { return std::exchange(m_nCount, 0); }
+
+private:
+    const QEvent::Type m_eType;
+    int m_nCount = 0;
+};
+
+/// Counts how often a widget is painted from now on.
+class CPaintCount : public CEventCount {
+public:
+    explicit CPaintCount(QWidget* widget) : CEventCount(widget, QEvent::Paint) {}
 };
 
 /// Counts the wheel events that its children leave to it.
@@ -232,6 +260,32 @@ TEST_F(CDoubleSpinBox, MetaObjectListsSlotsAndSignalsInTheirOrder) {
     expectTable(qt3::signalTable(&m_box), expectedSignals);
     EXPECT_EQ(qt3::className(&m_box), "TEVU::CDoubleSpinBox");
     EXPECT_EQ(qt3::superClassName(&m_box), "QWidget");
+    EXPECT_EQ(qt3::furtherEntries(&m_box), 0);
+}
+
+namespace {
+
+/// Tells where its virtual functions stand.
+class CPlaces : public TEVU::CDoubleSpinBox {
+public:
+    static std::vector<std::ptrdiff_t> take() {
+        using support::placeOf;
+        return {placeOf(&CPlaces::prefix),         placeOf(&CPlaces::suffix),
+                placeOf(&CPlaces::cleanText),      placeOf(&CPlaces::setSpecialValueText),
+                placeOf(&CPlaces::setWrapping),    placeOf(&CPlaces::setButtonSymbols),
+                placeOf(&CPlaces::setValidator),   placeOf(&CPlaces::setValue),
+                placeOf(&CPlaces::setPrefix),      placeOf(&CPlaces::setSuffix),
+                placeOf(&CPlaces::stepUp),         placeOf(&CPlaces::stepDown),
+                placeOf(&CPlaces::selectAll),      placeOf(&CPlaces::mapTextToValue),
+                placeOf(&CPlaces::mapValueToText), placeOf(&CPlaces::updateDisplay),
+                placeOf(&CPlaces::interpretText)};
+    }
+};
+
+} // namespace
+
+TEST_F(CDoubleSpinBox, VirtualFunctionsStandInTheirOrder) {
+    EXPECT_TRUE(support::standInARow(CPlaces::take())) << testing::PrintToString(CPlaces::take());
 }
 
 TEST_F(CDoubleSpinBox, IsItsOwnObject) {
@@ -535,6 +589,23 @@ TEST_F(CDoubleSpinBox, SymbolsAreThoseOfTheSpinWidget) {
     EXPECT_EQ(m_box.spin()->buttonSymbols(), qt3::SpinWidget::UpDownArrows);
 }
 
+TEST_F(CDoubleSpinBox, SymbolsHaveTheirNumbers) {
+    EXPECT_EQ(static_cast<int>(TEVU::CDoubleSpinBox::UpDownArrows), 0);
+    EXPECT_EQ(static_cast<int>(TEVU::CDoubleSpinBox::PlusMinus), 1);
+}
+
+TEST_F(CDoubleSpinBox, OnlyOtherSymbolsArePaintedAnew) {
+    CPaintCount paintings(m_box.spin());
+
+    m_box.setButtonSymbols(TEVU::CDoubleSpinBox::UpDownArrows);
+    support::processEvents();
+    EXPECT_EQ(paintings.take(), 0);
+
+    m_box.setButtonSymbols(TEVU::CDoubleSpinBox::PlusMinus);
+    support::processEvents();
+    EXPECT_EQ(paintings.take(), 1);
+}
+
 // What the editor shows
 
 TEST_F(CDoubleSpinBox, PrefixAndSuffixStandAroundTheNumber) {
@@ -714,6 +785,35 @@ TEST_F(CDoubleSpinBox, ValueReadsPendingTextOnce) {
     EXPECT_EQ(m_recorder.take(), Lines{});
 }
 
+TEST_F(CDoubleSpinBox, WhateverShowsTheValueAnewReadsPendingTextFirst) {
+    const std::vector<void (*)(Box&)> calls = {
+        [](Box& box) { box.setSpecialValueText("auto"); }, [](Box& box) { box.setWrapping(true); },
+        [](Box& box) { box.setEnabled(false); }, [](Box& box) { box.setSuffix(" mm"); },
+        [](Box& box) { box.setPrefix("x "); }};
+    const char* const texts[] = {"1", "2", "3", "4 mm", "x 5 mm"};
+    for (std::size_t i = 0; i < calls.size(); ++i) {
+        m_box.editor()->setText(texts[i]); // with the affixes that are about to be set
+        calls[i](m_box);
+        const std::string number = std::to_string(i + 1);
+        EXPECT_EQ(m_recorder.take(), change(number, texts[i]));
+        EXPECT_EQ(m_box.shown(), texts[i]);
+    }
+}
+
+TEST_F(CDoubleSpinBox, NewRangeReadsPendingTextAndThenGoesBackToTheValueFromBefore) {
+    m_box.setValue(3.0);
+    m_box.editor()->setText("7");
+    m_recorder.take();
+    recordCallsToo();
+
+    m_box.setMaxValue(8.0);
+
+    const Lines reading = Lines{"updateDisplay", "interpretText"} + c_vDisplay + change("7", "7") +
+                          c_vDisplay + c_vDisplay;
+    EXPECT_EQ(m_recorder.take(), reading + c_vDisplay + change("3", "3"));
+    EXPECT_EQ(m_box.shown(), "3");
+}
+
 TEST_F(CDoubleSpinBox, ReturnAndEnterRead) {
     type("7\n");
     EXPECT_EQ(m_recorder.take(), change("7", "7"));
@@ -891,6 +991,16 @@ TEST_F(CDoubleSpinBox, BacktabReadsAndMovesBack) {
     EXPECT_TRUE(m_other.hasFocus()); // the only other one
 }
 
+TEST_F(CDoubleSpinBox, TabComesToTheBoxOnceInsteadOfTheEditor) {
+    support::giveFocus(&m_box);
+    CEventCount keys(&m_box, QEvent::KeyPress);
+
+    support::keyClick(&m_box, Qt::Key_Tab, Modifier::None, "\t");
+
+    EXPECT_EQ(keys.take(), 1);
+    EXPECT_TRUE(m_other.hasFocus());
+}
+
 TEST_F(CDoubleSpinBox, ControlTabIsLeftToOthers) {
     recordCallsToo();
     type("7");
@@ -1045,6 +1155,74 @@ TEST_F(CDoubleSpinBox, ValidatorCanBeReplaced) {
     EXPECT_EQ(m_box.validator(), nullptr);
 }
 
+// What derived classes override
+
+namespace {
+
+/// Shows a fraction as a percentage, and writes down its steps.
+class CPercentBox : public TEVU::CDoubleSpinBox {
+public:
+    explicit CPercentBox(QWidget* parent) : TEVU::CDoubleSpinBox(0.0, 1.0, 0.25, parent, "box") {
+        updateDisplay();
+    }
+
+    QString suffix() const override { return " %"; }
+    void stepUp() override { m_vCalls.push_back("stepUp"); }
+    void stepDown() override { m_vCalls.push_back("stepDown"); }
+
+    Lines takeCalls() { return std::exchange(m_vCalls, Lines()); }
+
+protected:
+    QString mapValueToText(double v) override { return QString::number(100.0 * v); }
+    double mapTextToValue(bool* ok) override { return cleanText().toDouble(ok) / 100.0; }
+
+private:
+    Lines m_vCalls;
+};
+
+} // namespace
+
+TEST_F(CDoubleSpinBox, OverriddenTextsAndMappingsAreShownReadJudgedAndMeasured) {
+    CPercentBox box(&m_window);
+    EXPECT_EQ(support::text(box.text()), "0 %");
+
+    box.setValue(0.5);
+    EXPECT_EQ(support::text(box.text()), "50 %");
+
+    QLineEdit* const editor = support::child<QLineEdit>(&box, "LineEdit_DoubleSpinbox");
+    editor->setText("75 %");
+    EXPECT_EQ(box.value(), 0.75);
+
+    QString typed = "20 %";
+    int position = 0;
+    EXPECT_EQ(box.validator()->validate(typed, position), QValidator::Acceptable);
+
+    box.selectAll();
+    EXPECT_EQ(support::text(editor->selectedText()), "75");
+
+    Box plain(0.0, 100.0, 1.0, &m_window, "plain");
+    plain.setSuffix(" %");
+    EXPECT_TRUE(box.sizeHint() == plain.sizeHint());
+}
+
+TEST_F(CDoubleSpinBox, ButtonsKeysAndWheelCallTheOverriddenSteps) {
+    CPercentBox box(&m_window);
+    box.setGeometry(0, 30, 100, 24);
+    box.setValue(0.5);
+    box.show();
+    qt3::SpinWidget* const spin = support::child<qt3::SpinWidget>(&box, "SpinWidget");
+
+    support::mouseClick(spin, box.upRect().center());
+    support::mouseClick(spin, box.downRect().center());
+    EXPECT_EQ(box.takeCalls(), (Lines{"stepUp", "stepDown"}));
+    support::keyClick(&box, Qt::Key_Up);
+    support::keyClick(&box, Qt::Key_Down);
+    EXPECT_EQ(box.takeCalls(), (Lines{"stepUp", "stepDown"}));
+    support::wheel(&box, 240);
+    support::wheel(&box, -120);
+    EXPECT_EQ(box.takeCalls(), (Lines{"stepUp", "stepUp", "stepDown"}));
+}
+
 // Size and style
 
 TEST_F(CDoubleSpinBox, SpinWidgetFillsTheBox) {
@@ -1100,29 +1278,6 @@ TEST_F(CDoubleSpinBox, NewStyleArrangesButtonsAndEditor) {
 }
 
 // Painting
-
-namespace {
-
-/// Counts how often a widget is painted from now on.
-class CPaintCount : public QObject {
-public:
-    explicit CPaintCount(QWidget* widget) {
-        support::processEvents(); // what is due already does not count
-        widget->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        m_nCount += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-    int take() { return std::exchange(m_nCount, 0); }
-
-private:
-    int m_nCount = 0;
-};
-
-} // namespace
 
 TEST_F(CDoubleSpinBox, ChangeIsPaintedOnceAndAtOnce) {
     leave();
@@ -1238,6 +1393,20 @@ TEST_F(CDoubleSpinBox, CopyTakesOverRangeTextsAndFlags) {
     EXPECT_EQ(copy.shown(), "x 4 mm");
     EXPECT_EQ(copy.validator(), m_box.validator());
     EXPECT_EQ(copy.parentWidget(), &m_window);
+}
+
+TEST_F(CDoubleSpinBox, CopyAndAssignmentTakeOverWhatIsPending) {
+    m_box.editor()->setText("7");
+
+    const Box copy(m_box);
+    EXPECT_EQ(copy.stored(), 0.0);
+    EXPECT_EQ(copy.value(), 7.0);
+
+    m_box.editor()->setText("8");
+    Box other(0.0, 10.0, 1.0, &m_window, "other");
+    static_cast<TEVU::CDoubleSpinBox&>(other) = m_box;
+    EXPECT_EQ(other.stored(), 0.0);
+    EXPECT_EQ(other.value(), 8.0);
 }
 
 TEST_F(CDoubleSpinBox, CopySignalsByItselfAndTheButtonsStayTheOriginals) {

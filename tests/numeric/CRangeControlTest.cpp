@@ -1,7 +1,9 @@
 #include <CRangeControl.h>
 
+#include <VirtualPlaces.h>
 #include <Warnings.h>
 #include <cmath>
+#include <cstddef>
 #include <functional>
 #include <gtest/gtest.h>
 #include <iterator>
@@ -134,6 +136,20 @@ TEST(CRangeControlTest, ReversedFiveArgumentRangeIsKeptWithoutWarningAndYieldsTh
 
 TEST(CRangeControlTest, IsDestroyedThroughItsBase) {
     EXPECT_TRUE(std::has_virtual_destructor<TEVU::CRangeControl>::value);
+}
+
+/// Tells where the hooks stand.
+class CPlaces : public TEVU::CRangeControl {
+public:
+    static std::vector<std::ptrdiff_t> take() {
+        return {support::placeOf(&CPlaces::valueChange), support::placeOf(&CPlaces::rangeChange),
+                support::placeOf(&CPlaces::stepChange)};
+    }
+};
+
+TEST(CRangeControlTest, HooksStandInTheirOrderBehindTheDestructor) {
+    EXPECT_EQ(CPlaces::take(),
+              (std::vector<std::ptrdiff_t>{2, 3, 4})); // a destructor has two places
 }
 
 TEST(CRangeControlTest, HooksOfTheClassItselfDoNothing) {
@@ -442,6 +458,19 @@ TEST(CRangeControlTest, ReportRoundsTiesToEvenAndKeepsTheSignOfZeroAsPrintfDoes)
     EXPECT_EQ(warnings.lines(),
               (Lines{"CRangeControl::setRange: minValue 85884.164062 > maxValue -0.000000",
                      "CRangeControl::setRange: minValue 0.000002 > maxValue -0.000000"}));
+}
+
+TEST(CRangeControlTest, ReportWritesLargeNumbersInFullAndInfinitiesAsPrintfDoes) {
+    Control control = controlAt(2.0);
+    const support::Warnings warnings;
+
+    control.setRange(1e22, -1e20);
+    control.setRange(c_infinity, -c_infinity);
+
+    EXPECT_EQ(warnings.lines(),
+              (Lines{"CRangeControl::setRange: minValue 10000000000000000000000.000000 > maxValue "
+                     "-100000000000000000000.000000",
+                     "CRangeControl::setRange: minValue inf > maxValue -inf"}));
 }
 
 TEST(CRangeControlTest, RangeOfOnePointIsNotReversed) {

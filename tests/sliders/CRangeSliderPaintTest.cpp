@@ -13,6 +13,7 @@
 #include <qstyle.h>
 #include <qstylefactory.h>
 #include <qt3/Painter.h>
+#include <qt3/SignalTap.h>
 #include <qt3/Style.h>
 #include <qt3/Widget.h>
 #include <qt3/WidgetFunctions.h>
@@ -255,6 +256,21 @@ TEST_P(CRangeSliderPaintTest, EverySetterShowsItsResult) {
     EXPECT_TRUE(shows(shown, {66, 66}));
     shown.m_slider.SetUpper(152);
     EXPECT_TRUE(shows(shown, {66, 67}));
+}
+
+TEST_P(CRangeSliderPaintTest, SignalsComeBeforeThePictureIsRenderedAnew) {
+    StShownSlider shown(GetParam(), c_middle);
+    Lines before;
+    qt3::SignalTap tap;
+    tap.listenToAll(&shown.m_slider, [&](const std::string& signal, const std::string&) {
+        EXPECT_TRUE(shows(shown, {36, 96})) << signal;
+        before.push_back(signal);
+    });
+
+    shown.m_slider.SetRange(30, 60);
+
+    EXPECT_EQ(before, (Lines{"ValueChanged", "LowerChanged", "UpperChanged"}));
+    EXPECT_TRUE(shows(shown, {46, 76}));
 }
 
 TEST_P(CRangeSliderPaintTest, StoredBoundShowsOnlyAtTheNextRendering) {

@@ -1,13 +1,16 @@
 #include <CRangeSliderSpinboxed.h>
 
 #include "SpinboxedRig.h"
+#include "VirtualPlaces.h"
 #include "Wording.h"
 
+#include <cstddef>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <ostream>
 #include <utility>
+#include <vector>
 
 using support::Lines;
 using TEVU::CRangeSlider;
@@ -24,6 +27,11 @@ TEST(CRangeSliderSpinboxedTest, ChildrenHaveTheirNamesTheFirstWithATrailingBlank
     EXPECT_EQ(rig.m_pSpin1->parentWidget(), &rig.m_composite);
     EXPECT_EQ(rig.m_pSpin2->parentWidget(), &rig.m_composite);
     EXPECT_EQ(rig.m_pSlider->parentWidget(), &rig.m_composite);
+}
+
+TEST(CRangeSliderSpinboxedTest, ChildrenComeInTheOrderInWhichTheyStand) {
+    const StRig rig;
+    EXPECT_TRUE(standInOrder(&rig.m_composite, {rig.m_pSpin1, rig.m_pSlider, rig.m_pSpin2}));
 }
 
 TEST(CRangeSliderSpinboxedTest, HasItsParentAndName) {
@@ -269,6 +277,19 @@ public:
 
     Lines take() { return std::exchange(m_vLines, Lines()); }
 
+    static std::vector<std::ptrdiff_t> places() {
+        using support::placeOf;
+        using CTelling = CTellingComposite;
+        return {placeOf(&CTelling::SlotChangeValSpinBox1),
+                placeOf(&CTelling::SlotChangeValSpinBox2),
+                placeOf(&CTelling::SlotChangeValRangeSliderLower),
+                placeOf(&CTelling::SlotChangeValRangeSliderUpper),
+                placeOf(&CTelling::SlotChangeValRangeSlider),
+                placeOf(&CTelling::SlotCorrectSignalValueChanged),
+                placeOf(&CTelling::SlotCorrectSignalLowerChanged),
+                placeOf(&CTelling::SlotCorrectSignalUpperChanged)};
+    }
+
 private:
     void SlotChangeValSpinBox1(int o) override { tell(call("ChangeValSpinBox1", o)); }
     void SlotChangeValSpinBox2(int o) override { tell(call("ChangeValSpinBox2", o)); }
@@ -302,6 +323,7 @@ TEST(CRangeSliderSpinboxedTest, MetaObjectTellsTheClass) {
     const CRangeSliderSpinboxed composite;
     EXPECT_EQ(qt3::className(&composite), "TEVU::CRangeSliderSpinboxed");
     EXPECT_EQ(qt3::superClassName(&composite), "QWidget");
+    EXPECT_EQ(qt3::furtherEntries(&composite), 0);
 }
 
 TEST(CRangeSliderSpinboxedTest, SlotsAndSignalsHaveTheirOrderAndAccess) {
@@ -321,6 +343,11 @@ TEST(CRangeSliderSpinboxedTest, SlotsAndSignalsHaveTheirOrderAndAccess) {
     EXPECT_EQ(tableLines(qt3::signalTable(&composite)),
               (Lines{"public SignalValueChanged(int,int)", "public SignalLowerChanged(int)",
                      "public SignalUpperChanged(int)"}));
+}
+
+TEST(CRangeSliderSpinboxedTest, PrivateSlotsStandInTheOrderOfTheTable) {
+    EXPECT_TRUE(support::standInARow(CTellingComposite::places()))
+        << testing::PrintToString(CTellingComposite::places());
 }
 
 TEST(CRangeSliderSpinboxedTest, ConnectionsCallTheOverridesInTheirOrder) {

@@ -1,8 +1,10 @@
 #include <CRangeSlider.h>
 
 #include "TalkingRangeSlider.h"
+#include "VirtualPlaces.h"
 #include "Wording.h"
 
+#include <cstddef>
 #include <gtest/gtest.h>
 #include <limits>
 #include <memory>
@@ -463,6 +465,22 @@ TEST(CRangeSliderTest, HooksOfTheClassItselfDoNothing) {
     EXPECT_EQ(rangeOf(slider), "30..70 in 30..70");
 }
 
+namespace {
+
+/// Tells where the hooks stand.
+class CPlaces : public CRangeSlider {
+public:
+    static std::vector<std::ptrdiff_t> take() {
+        return {support::placeOf(&CPlaces::ValueChange), support::placeOf(&CPlaces::RangeChange)};
+    }
+};
+
+} // namespace
+
+TEST(CRangeSliderTest, HooksStandInTheirOrder) {
+    EXPECT_TRUE(support::standInARow(CPlaces::take())) << testing::PrintToString(CPlaces::take());
+}
+
 TEST(CRangeSliderTest, HiddenSliderAnnouncesWithoutPainting) {
     QWidget parent;
     CTalkingRangeSlider slider(Qt::Horizontal, c_middle, &parent);
@@ -511,6 +529,7 @@ TEST(CRangeSliderTest, MetaObjectTellsTheClass) {
     const CRangeSlider slider(Qt::Horizontal, 20, 80, 0, 100, nullptr, "slider");
     EXPECT_EQ(qt3::className(&slider), "TEVU::CRangeSlider");
     EXPECT_EQ(qt3::superClassName(&slider), "QWidget");
+    EXPECT_EQ(qt3::furtherEntries(&slider), 0);
     EXPECT_TRUE(slider.inherits("TEVU::CRangeSlider"));
 }
 

@@ -133,6 +133,10 @@ TEST_P(CSpinboxSliderConstructionTest, GivesThemToItsChildren) {
     EXPECT_EQ(spin->parentWidget(), composite);
 }
 
+TEST_P(CSpinboxSliderConstructionTest, MakesTheSliderFirstWhereverItStands) {
+    EXPECT_TRUE(standInOrder(composite, {slider, spin}));
+}
+
 TEST_P(CSpinboxSliderConstructionTest, MirrorsTheSliderWhenInverted) {
     const int value = row.numbers ? 20 : 0;
     EXPECT_EQ(spin->value(), value);
@@ -527,6 +531,7 @@ TEST(CSpinboxSliderTest, MetaObjectTellsTheClass) {
     const CSpinboxSlider composite;
     EXPECT_EQ(qt3::className(&composite), "TEVU::CSpinboxSlider");
     EXPECT_EQ(qt3::superClassName(&composite), "QWidget");
+    EXPECT_EQ(qt3::furtherEntries(&composite), 0);
 }
 
 TEST(CSpinboxSliderTest, SlotsAndSignalsHaveTheirOrderAndAccess) {

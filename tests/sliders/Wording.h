@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <qnamespace.h>
+#include <qt3/Descendants.h>
 #include <qt3/MetaObject.h>
 #include <string>
 #include <vector>
@@ -28,6 +29,16 @@ inline std::string call(const std::string& name, int a) {
 
 inline std::string call(const std::string& name, int a, int b) {
     return name + '(' + std::to_string(a) + ", " + std::to_string(b) + ')';
+}
+
+/// Whether the objects below \a parent come in that order, whatever stands between them.
+inline bool standInOrder(QObject* parent, const std::vector<QObject*>& objects) {
+    std::size_t found = 0;
+    for (QObject* object : qt3::descendants(parent)) {
+        if (found < objects.size() && object == objects[found])
+            ++found;
+    }
+    return found == objects.size();
 }
 
 /// Each method as "access signature".
