@@ -27,8 +27,9 @@ namespace TEVU {
 ///    is rounded; Value() returns what the text says.
 /// 2. Decimal point and digits are those of the C locale, whatever the locale.
 ///
-/// It has the signals of a line edit and no more. GUI thread only. A copy is a field of its own
-/// beside the original, with the same text, value and precision.
+/// It has the signals of a line edit and no more: textChanged() follows whenever the text becomes
+/// another one, from code too. GUI thread only. A copy is a field of its own beside the original,
+/// with the same text, value and precision.
 class RUQGUI_EXPORT CDoubleLineEdit : public qt3::LineEdit {
     Q_OBJECT
 
@@ -36,7 +37,8 @@ public:
     /// Starts empty, with the stored value 0 and two decimals.
     explicit CDoubleLineEdit(QWidget* parent = 0, const char* name = 0);
 
-    /// Shows \a value. \param precision digits after the point, at most 32767; 0 for no point
+    /// Shows \a value. \param precision digits after the point, at most 32767; 0 for no point, less
+    /// for 6 digits
     CDoubleLineEdit(double value, int precision, QWidget* parent, const char* name);
 
     CDoubleLineEdit(const CDoubleLineEdit& other);
@@ -48,7 +50,7 @@ public:
     /// With a null \a ok nothing is read: the stored value is shown. Otherwise \a ok tells whether
     /// the text is a number, and is not looked at before; the number becomes the stored value, or the
     /// stored value stays. After the text was set, textChanged() comes once more, with the text that
-    /// stood there before.
+    /// stood there before, even if that has not changed.
     void SetText(bool* ok);
 
 public slots:
@@ -62,8 +64,8 @@ public slots:
     void SetToDouble(); ///< SetValue(14.44): a sample number.
 
 protected slots:
-    /// Runs on Return. SetText(), so textChanged() follows twice. Returns whether the text was a
-    /// number.
+    /// Runs on Return. SetText(), so textChanged() follows with the new text, if that differs, and
+    /// with the old one in any case. Returns whether the text was a number.
     bool ValidateInput();
 
 protected:

@@ -57,8 +57,9 @@ public:
     void subtractPage(); ///< setValue(value() - pageStep()): stops at the minimum, never wraps.
 
     /// Sets the range. A reversed range is reported with qWarning and collapses to \a minValue.
-    /// Does nothing for the range in force. Otherwise calls rangeChange(); then, if the value lies
-    /// outside the new range, clamps it and calls valueChange().
+    /// Does nothing for the range in force. Otherwise clamps the value, calls rangeChange(), and then
+    /// stores the clamped value and calls valueChange() if that differs from the value in force: one
+    /// that rangeChange() has set does not last.
     void setRange(double minValue, double maxValue);
 
     void setMinValue(double v); ///< setRange() with the maximum raised to \a v if it lies below.

@@ -33,8 +33,9 @@ class RUQGUI_EXPORT CRangeSlider : public qt3::Widget {
 
 public:
     /// The range comes first, then the bound. Equal bounds become [\a min, \a min + 1]. \a upper is
-    /// lowered to the maximum and \a lower raised to the minimum; other mismatches stay as given.
-    /// Announces nothing.
+    /// lowered to the maximum and \a lower raised to the minimum; other mismatches stay as given. The
+    /// count of values of the bound as given is the greatest allowed one, until SetBound() sets
+    /// another. Announces nothing.
     CRangeSlider(Qt::Orientation orientation, int lower, int upper, int min, int max,
                  QWidget* parent, const char* name);
     CRangeSlider(const CRangeSlider& other);
@@ -60,7 +61,8 @@ public:
 public slots:
     /// Sets both ends, clamped into the bound. Does nothing for the range in force, unless it is a
     /// single value where that is forbidden. A forbidden single value grows by one: downward at the top
-    /// of the bound, upward elsewhere. A range with more values than the widest one keeps its upper end.
+    /// of the bound, upward elsewhere. A range with more values than allowed keeps its upper end; of a
+    /// reversed one the lower end stays, and the upper one comes to lie just below it.
     /// Then: ValueChange(), ValueChanged(), LowerChanged() if \a lower differed from before,
     /// UpperChanged() if \a upper did.
     void SetRange(int lower, int upper);
@@ -71,8 +73,9 @@ public slots:
     /// LowerChanged() or UpperChanged() for each end that was.
     void SetBound(int min, int max);
 
-    /// Moves the lower end alone, at most to the upper one (or just below it where a single value is
-    /// forbidden). Does nothing for the value in force. Then: ValueChange(), ValueChanged(),
+    /// Moves the lower end alone, at least to the minimum, at most to the upper one (or just below it
+    /// where a single value is forbidden), and not so far that the range has more values than allowed.
+    /// Does nothing for the value in force. Then: ValueChange(), ValueChanged(),
     /// LowerChanged(), even if clamping led back to the old value.
     void SetLower(int lower);
 
@@ -97,7 +100,9 @@ signals:
 
 protected:
     virtual void ValueChange(); ///< Called before each ValueChanged(); empty here.
-    virtual void RangeChange(); ///< Called by SetBound(), before all else; empty here.
+
+    /// Called by SetBound() when bound and ends are set, before anything is announced; empty here.
+    virtual void RangeChange();
 
     /// Paints everything into the picture; does not put it on the screen. Without a bar while the
     /// handles overlap: with a reversed range, or in a widget without room for both.

@@ -37,6 +37,8 @@ class RUQGUI_EXPORT CRangeSliderSpinboxed : public qt3::Widget {
     Q_OBJECT
 
 public:
+    /// The range comes first, then the bound. The range is kept as given; the spin boxes clamp what
+    /// they show. Announces nothing.
     CRangeSliderSpinboxed(Qt::Orientation orientation, bool inverted, int lower, int upper, int min,
                           int max, QWidget* parent, const char* name);
 
@@ -56,8 +58,8 @@ public:
     int GetMax() const;
     int GetLower() const;
     int GetUpper() const;
-    int GetRange() const; ///< GetUpper() - GetLower(): a difference, not a count.
-    bool NullRangeEnabled() const;
+    int GetRange() const;          ///< GetUpper() - GetLower(): a difference, not a count.
+    bool NullRangeEnabled() const; ///< Whether lower may equal upper; true at first.
 
 public slots:
     /// Moves one end through the slider, which clamps it. Does nothing if the value kept for that end

@@ -30,6 +30,8 @@ class RUQGUI_EXPORT CSpinboxSlider : public qt3::Widget {
     Q_OBJECT
 
 public:
+    /// \a value and the ends of the range are kept as given. A value outside is clamped by the
+    /// children; when \a max lies below \a min, \a min is the only value that they have.
     /// \param step the page step of the slider and the step of the spin box
     /// \param spinFirst the spin box stands before the slider; where it is not given, it does not
     /// \param inverted the slider is mirrored; where it is not given, it is not
@@ -54,17 +56,22 @@ public:
     CSpinboxSlider& operator=(const CSpinboxSlider&) = delete;
     ~CSpinboxSlider();
 
-    int GetValue() const; ///< As set last, even if that was outside the range.
+    /// As set or announced last. A value outside the range stays only if both children were at that
+    /// end already; else the end takes its place when they announce it.
+    int GetValue() const;
     int GetMinValue() const;
     int GetMaxValue() const;
     int GetStep() const;
 
 public slots:
-    /// Keeps the value as given, and sets both children, which clamp it.
+    /// Keeps the value as given, and sets both children, which clamp it. A child that moves announces
+    /// where it is: that is kept then, and SignalValueChanged() follows.
     void SlotSetValue(int value);
 
-    /// Moves one end of the range of both children. When inverted, that also moves the point at which
-    /// later values are mirrored; the slider stays where it is.
+    /// Moves one end of the range of both children, which take their other end along if that lies
+    /// beyond; the one kept here stays. When inverted, that also moves the point at which later values
+    /// are mirrored; the slider stays where it is. SignalValueChanged() follows only if a child has to
+    /// move into the new range.
     void SlotSetMinValue(int min);
     void SlotSetMaxValue(int max); ///< As SlotSetMinValue(), for the other end.
 
