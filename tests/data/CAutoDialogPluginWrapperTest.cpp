@@ -1,7 +1,8 @@
 #include "CAutoDialogPluginWrapper.h"
 
+#include "VirtualPlaces.h"
+
 #include <cstddef>
-#include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -15,6 +16,8 @@
 #include <type_traits>
 #include <vector>
 
+using support::placeOf;
+using support::standInARow;
 using TEVU::CValue;
 using TEVU::CValueBool;
 using TEVU::CValueLong;
@@ -134,14 +137,6 @@ public:
     virtual void Afterwards() {}
 };
 
-/// Where a virtual function lies in the table of its class, as all compilers but Microsoft's have it.
-template <class Function>
-std::ptrdiff_t slot(Function function) {
-    std::ptrdiff_t place = 0;
-    std::memcpy(&place, &function, sizeof place);
-    return place / static_cast<std::ptrdiff_t>(sizeof(void*));
-}
-
 [[noreturn]] void fail() {
     throw std::runtime_error("no more");
 }
@@ -193,11 +188,11 @@ static_assert(std::is_copy_constructible_v<CDialog> && std::is_copy_assignable_v
 
 // An application that was built before finds each by its place.
 TEST(AutoDialogOperations, LieInTheirOrderBeforeTheDestructor) {
-    const std::ptrdiff_t first = slot(&CLongerDialog::GetDialogValue);
+    const std::ptrdiff_t first = placeOf(&CLongerDialog::GetDialogValue);
+    const std::ptrdiff_t last = placeOf(&CLongerDialog::SetParameterValue);
     EXPECT_EQ(first, 0);
-    EXPECT_EQ(slot(&CLongerDialog::GetParameterValue), first + 1);
-    EXPECT_EQ(slot(&CLongerDialog::SetParameterValue), first + 2);
-    EXPECT_GT(slot(&CLongerDialog::Afterwards), first + 3);
+    EXPECT_TRUE(standInARow({first, placeOf(&CLongerDialog::GetParameterValue), last}));
+    EXPECT_GT(placeOf(&CLongerDialog::Afterwards), last + 1);
 }
 
 TEST_F(AutoDialog, CallsComeInTheirOrder) {

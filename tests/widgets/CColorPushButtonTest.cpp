@@ -207,6 +207,7 @@ TEST_F(ColorButton, ColorGivesACopy) {
 TEST_F(ColorButton, AnswersToItsNameAndItsOneSlot) {
     EXPECT_EQ(qt3::className(&m_button), "TEVU::CColorPushButton");
     EXPECT_EQ(qt3::superClassName(&m_button), "QPushButton");
+    EXPECT_EQ(qt3::furtherEntries(&m_button), 0);
     EXPECT_TRUE(qt3::signalTable(&m_button).empty());
     const std::vector<qt3::Method> slotList = qt3::slotTable(&m_button);
     ASSERT_EQ(slotList.size(), 1u);

@@ -66,6 +66,7 @@ TEST_F(NoNewLines, StartsAsThePlainEditDoes) {
 TEST_F(NoNewLines, AnswersToItsNameAndItsOneSlot) {
     EXPECT_EQ(qt3::className(&m_edit), "TEVU::CNoNewLinesTextEdit");
     EXPECT_EQ(qt3::superClassName(&m_edit), "QTextEdit");
+    EXPECT_EQ(qt3::furtherEntries(&m_edit), 0);
     EXPECT_TRUE(qt3::signalTable(&m_edit).empty());
     const std::vector<qt3::Method> slotList = qt3::slotTable(&m_edit);
     ASSERT_EQ(slotList.size(), 1u);
