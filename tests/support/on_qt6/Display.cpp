@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QProxyStyle>
+#include <QSettings>
 #include <cstdlib>
 #include <map>
 
@@ -50,6 +51,9 @@ private:
 void prepareDisplay() {
     if (!std::getenv("QT_QPA_PLATFORM"))
         setVariable("QT_QPA_PLATFORM", "offscreen");
+    // The toolkit's file dialog keeps its view, its history and its last folder in the user's settings: tests
+    // neither follow them nor change them. Where nothing can be written, they live in the process alone.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 }
 
 // The drivers answer the toolkit's dialogs. That the library asks for these is what ScriptedUser shows.
