@@ -36,7 +36,8 @@ namespace TEVU {
 ///
 /// Registry entries, all strings: "main/globalsettings/IO/loadingdir",
 /// "main/globalsettings/IO/savingdir", "main/globalsettings/IO/lastimage0" (the newest) to
-/// "main/globalsettings/IO/lastimage3".
+/// "main/globalsettings/IO/lastimage3". The saving directory counts only in the run that saved there:
+/// the first look-up of a remembered directory in a process removes the entry, whoever has written it.
 ///
 /// GUI thread only. Copies take over all members; the parent is not owned. When an application
 /// destroys the parent under an open dialog or box, even together with this object, asking ends as
@@ -69,9 +70,8 @@ public:
     /// Asks for one existing file until the user cancels (false, nothing changed) or chooses a file
     /// that is readable and has an ASCII name (true). Then its directory becomes the loading
     /// directory, it is pushed onto the last images, and path and extension are kept.
-    /// \param startDir where the dialog starts; UseWorkingDir means the remembered loading
-    /// directory,
-    ///        else the saving directory of this run, else the home directory.
+    /// \param startDir where the dialog starts; UseWorkingDir means the first of these that exists: the
+    ///        remembered loading directory, the saving directory of this run, the home directory.
     bool GetOpenFileName(const std::string& filter, const std::string& startDir);
 
     /// The same for several files, each of which must pass both checks. The last images stay as
@@ -85,6 +85,9 @@ public:
     /// its directory becomes the saving directory, it is pushed onto the last images, and path and
     /// extension are kept. Nothing is written to the file.
     ///
+    /// Cancel in the question about the extension or about an existing file ends it as Cancel in the
+    /// dialog does. No, a place that stays unwritable and a name that is not ASCII open the dialog again.
+    ///
     /// The dialog starts with \a fileName, "Untitled" if that is empty, with the filter's first
     /// extension appended if it has none of them: where it says if it is absolute and its directory
     /// exists, else in the saving directory of this run, the loading directory, or the home
@@ -96,15 +99,16 @@ public:
     ///         only after the user has chosen a name.
     bool GetSaveFileName(const std::string& fileName, const std::string& filter, EnSaveMode mode);
 
-    bool WasFileSelected() const;
+    bool WasFileSelected() const; ///< What the asking constructor got; false after the plain one.
 
     std::string FilePath() const;               ///< The first path; empty when there is none.
     std::vector<std::string> FilePaths() const; ///< All paths, in the order of the dialog.
-    QStringList FilePathsAsQStringList() const;
+    QStringList FilePathsAsQStringList() const; ///< The same as the toolkit's texts.
     CValueVector FilePathsAsValueVector() const; ///< A CValueString for each path, at 0, 1, 2, …
 
     /// The extension of the first path without its dot, in upper or lower case. Behind ".gz" it has
     /// two sections ("stl.gz"); a path without a dot is its own extension.
+    /// Empty before the first success.
     std::string FileExtension(bool upper) const;
 
     /// Whether the file exists and may be read. Unless \a silent, a box offers Retry and Cancel for

@@ -37,7 +37,7 @@ public:
     enum EnDialogMode {
         eOpenFile = 0, ///< One existing file.
         eSaveFile = 1, ///< A name to save under; the text of the field is proposed.
-        eOpenFiles = 2 ///< Several existing files; the field shows them joined by commas.
+        eOpenFiles = 2 ///< Several existing files, joined by commas in the field; none is escaped.
     };
 
     /// \param fileName the first text of the field

@@ -105,6 +105,15 @@ TEST_F(CFileDialogReadableTest, NameIsShownAsItStands) {
     EXPECT_FALSE(CFileDialog::IsFileReadable(toText(path), nullptr, false));
 }
 
+TEST_F(CFileDialogReadableTest, NameThatBeginsWithAColonIsThatOfAFile) {
+    NOT_ON_WINDOWS(noSuchNames);
+    dir.writeFile("working folder/:a.tif");
+
+    EXPECT_TRUE(CFileDialog::IsFileReadable(":a.tif", nullptr, true));
+    EXPECT_FALSE(CFileDialog::IsFileReadable(":b.tif", nullptr, true));
+    EXPECT_FALSE(CFileDialog::IsFileReadable(":/", nullptr, true));
+}
+
 using CFileDialogWritableTest = FileDialogTest;
 
 TEST_F(CFileDialogWritableTest, NewNameIsTriedAndLeavesNothingBehind) {
@@ -173,6 +182,18 @@ TEST_F(CFileDialogWritableTest, MissingFolderFailsSilently) {
 
     EXPECT_FALSE(dir.exists("none"));
     EXPECT_EQ(user.log(), Lines());
+}
+
+TEST_F(CFileDialogWritableTest, NameThatBeginsWithAColonIsThatOfAFile) {
+    NOT_ON_WINDOWS(noSuchNames);
+    dir.writeFile("working folder/:a.tif", "pixels");
+
+    EXPECT_TRUE(CFileDialog::IsFileWritable(":a.tif", nullptr, true));
+    EXPECT_TRUE(CFileDialog::IsFileWritable(":b.tif", nullptr, true));
+    EXPECT_FALSE(CFileDialog::IsFileWritable(":/c.tif", nullptr, true));
+
+    EXPECT_EQ(listOf(workingFolder()), Lines{":a.tif"});
+    EXPECT_EQ(dir.read("working folder/:a.tif"), "pixels");
 }
 
 TEST_F(CFileDialogWritableTest, EmptyNameFailsSilently) {

@@ -186,7 +186,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Proposal{"WithQuotes", "a\"b'c", c_images, "a\"b'c.png"},
                     Proposal{"RelativeFolder", "sub/scan", c_images, "sub/scan.png"},
                     Proposal{"HomeIsNoAbsoluteName", "~/scan", c_images, "~/scan.png"},
-                    Proposal{"Percent", "100%1", c_images, "100%1.png"}),
+                    Proposal{"Percent", "100%1", c_images, "100%1.png"},
+                    Proposal{"ColonFirst", ":scan", c_images, ":scan.png"},
+                    Proposal{"ColonAsTheFolder", ":/scan", c_images, ":/scan.png"}),
     [](const testing::TestParamInfo<Proposal>& row) { return std::string(row.param.name); });
 
 TEST_F(CFileDialogSaveTest, LongNameIsProposedWhole) {

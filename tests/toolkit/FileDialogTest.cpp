@@ -113,6 +113,28 @@ void sortList(QWidget* dialog) {
 #endif
 }
 
+/// As clicks would.
+void selectInList(QWidget* dialog, const Lines& names) {
+#if QT_VERSION >= 0x060000
+    const auto* const list = support::child<QListView>(dialog, "listView");
+    const auto* const model = support::child<QFileSystemModel>(dialog);
+    for (const std::string& name : names) {
+        const QString path = model->rootPath() + '/' + ascii(name);
+        support::waitUntil([&] { return model->index(path).isValid(); });
+        const QModelIndexList found =
+            list->model()->match(list->model()->index(0, 0, list->rootIndex()), Qt::DisplayRole,
+                                 ascii(name), 1, Qt::MatchExactly);
+        ASSERT_FALSE(found.isEmpty()) << name;
+        list->selectionModel()->select(found.first(),
+                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+#else
+    QListView* const list = support::child<QListView>(dialog);
+    for (const std::string& name : names)
+        list->setSelected(list->findItem(ascii(name), 0), true);
+#endif
+}
+
 support::FileRequest shows(const std::string& folder, const std::string& fileName) {
     return {{}, {}, folder, fileName};
 }
@@ -301,6 +323,15 @@ TEST_P(FileDialogWays, NamesMayHoldWhatPathsAndAddressesGiveAMeaning) {
     }
 }
 
+TEST_P(FileDialogWays, TypedNameMayBeginWithAColon) {
+    NOT_ON_WINDOWS(noSuchNames);
+    const std::string path = m_dir.writeFile(":a.tif");
+    ModalDriver driver;
+    driver.expectFileDialog({}).choose(":a.tif");
+
+    EXPECT_EQ(run(m_dir.path()), Lines{path});
+}
+
 INSTANTIATE_TEST_SUITE_P(All, FileDialogWays, testing::ValuesIn(c_ways),
                          [](const auto& row) { return std::string(row.param.name); });
 
@@ -365,6 +396,26 @@ TEST_P(FileDialogForOne, FolderWithQuotationMarksIsEntered) {
     EXPECT_EQ(shown, folder);
 }
 
+#if QT_VERSION >= 0x060000 // Qt 3.3 takes such a name for an address and complains
+TEST_P(FileDialogForOne, StartFileThatBeginsWithAColonIsFilledIn) {
+    NOT_ON_WINDOWS(noSuchNames);
+    const std::string path = m_dir.writeFile(":a.tif");
+    ModalDriver driver;
+    driver.expectFileDialog(shows(m_dir.path(), ":a.tif")).accept();
+
+    EXPECT_EQ(run(path), Lines{path});
+}
+
+TEST_P(FileDialogForOne, StartFolderOfTheProgramsOwnResourcesIsNoFolder) {
+    ModalDriver driver;
+    driver.expectFileDialog({}).cancel();
+    driver.expectFileDialog(shows(m_dir.path(), "")).cancel();
+
+    run(m_dir.path());
+    run(":/");
+}
+#endif
+
 INSTANTIATE_TEST_SUITE_P(All, FileDialogForOne, testing::Values(c_ways[0], c_ways[2]),
                          [](const auto& row) { return std::string(row.param.name); });
 
@@ -396,6 +447,66 @@ TEST(FileDialog, SeveralComeInTheOrderTypedThoughTheListIsSortedMeanwhile) {
         .cancel();
 
     EXPECT_EQ(openSeveral(dir.path()), (Lines{a, c, b}));
+}
+
+TEST(FileDialog, SeveralAreTheNamesTypedAlsoTwiceTheSame) {
+    const support::TempDir dir;
+    const std::string a = dir.writeFile("a.tif");
+    const std::string b = dir.writeFile("b.tif");
+    ModalDriver driver;
+    driver.expectFileDialog({}).chooseSeveral({"b.tif", "a.tif", "b.tif"});
+
+    EXPECT_EQ(openSeveral(dir.path()), (Lines{b, a, b}));
+}
+
+TEST(FileDialog, SeveralMayBeFilesThatTheFilterHides) {
+    const support::TempDir dir;
+    const std::string a = dir.writeFile("a.tif");
+    const std::string hidden = dir.writeFile("b.txt");
+    const std::string c = dir.writeFile("c.tif");
+    ModalDriver driver;
+    driver.expectFileDialog({}).chooseSeveral({"c.tif", "b.txt", "a.tif"});
+
+    EXPECT_EQ(openSeveral(dir.path()), (Lines{c, hidden, a}));
+}
+
+TEST(FileDialog, SeveralThatAreSelectedInTheListMayHaveQuotationMarks) {
+    NOT_ON_WINDOWS(noSuchNames);
+    const support::TempDir dir;
+    const std::string a = dir.writeFile("a.tif");
+    const std::string quoted = dir.writeFile("say \"hi\".tif");
+    ModalDriver driver;
+    driver.expectFileDialog({})
+        .before([] {
+            selectInList(QApplication::activeModalWidget(), {"a.tif", "say \"hi\".tif"});
+        })
+        .accept();
+
+    EXPECT_EQ(openSeveral(dir.path()), (Lines{a, quoted}));
+}
+
+// In a box of the toolkit's own.
+TEST(FileDialog, MissingOneOfSeveralIsToldOfAndLeavesTheDialogOpenAsItWas) {
+    const support::TempDir dir;
+    const std::string a = dir.writeFile("a.tif");
+    const std::string c = dir.writeFile("c.tif");
+    const std::string names = "\"c.tif\" \"b.tif\" \"a.tif\"";
+    std::string stillTyped;
+    ModalDriver driver;
+    driver.expectFileDialog({})
+        .before([&] {
+            acceptTyped(names);
+            if (QWidget* const dialog = QApplication::activeModalWidget())
+                stillTyped = support::typedFileName(dialog);
+        })
+        .chooseSeveral({"c.tif", "a.tif"});
+    driver.expectMessage({{}, {}, {"OK"}}).enter();
+
+    EXPECT_EQ(openSeveral(dir.path()), (Lines{c, a}));
+
+    EXPECT_EQ(stillTyped, names);
+    ASSERT_EQ(driver.log().size(), 2u);
+    EXPECT_NE(driver.log()[1].find("b.tif\\n"), std::string::npos) << driver.log()[1];
 }
 
 TEST(FileDialog, MissingFileWithQuotationMarksLeavesTheDialogOpen) {

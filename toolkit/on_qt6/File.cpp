@@ -1,5 +1,7 @@
 #include <qt3/File.h>
 
+#include "FileNames.h"
+
 #include <qdir.h>
 #include <qfile.h>
 #include <qfileinfo.h>
@@ -20,19 +22,19 @@ QString withoutLinks(QString name) {
 } // namespace
 
 bool exists(const QString& name) {
-    return QFile::exists(name);
+    return QFile::exists(onDisk(name));
 }
 
 bool isReadable(const QString& name) {
-    return QFileInfo(name).isReadable();
+    return QFileInfo(onDisk(name)).isReadable();
 }
 
 bool isWritable(const QString& name) {
-    return QFileInfo(name).isWritable();
+    return QFileInfo(onDisk(name)).isWritable();
 }
 
 bool canCreate(const QString& name) {
-    QFile file(withoutLinks(name));
+    QFile file(withoutLinks(onDisk(name)));
     if (name.isEmpty() || !file.open(QIODevice::ReadWrite | QIODevice::NewOnly))
         return false;
     file.close();
@@ -45,11 +47,11 @@ QString dirPath(const QString& name) {
 }
 
 bool isRelative(const QString& name) {
-    return QFileInfo(name).isRelative();
+    return QFileInfo(onDisk(name)).isRelative();
 }
 
 bool isInExistingDir(const QString& name) {
-    return QFileInfo(name).dir().exists();
+    return QFileInfo(onDisk(name)).dir().exists();
 }
 
 QString homeDirPath() {

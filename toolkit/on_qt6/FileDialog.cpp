@@ -1,10 +1,12 @@
 #include <qt3/FileDialog.h>
 
+#include "FileNames.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QHash>
 #include <QLineEdit>
+#include <QListView>
 #include <QPointer>
 #include <algorithm>
 
@@ -26,9 +28,9 @@ QString takeStartPath(const QString& path) {
         lastFolder() = QDir::currentPath();
     if (path.isEmpty())
         return QString();
-    const QFileInfo start(path);
+    const QFileInfo start(onDisk(path));
     if (start.isDir()) {
-        lastFolder() = path;
+        lastFolder() = start.filePath();
         return QString();
     }
     if (!QFileInfo::exists(start.path()))
@@ -47,7 +49,8 @@ QStringList filterList(const QString& filter) {
 QString resolveFolder(const QString& path) {
     const QFileInfo file(path);
     const QString folder = file.dir().canonicalPath();
-    return folder.isEmpty() ? path : QDir(folder).filePath(file.fileName());
+    return folder.isEmpty() ? path
+                            : QDir::cleanPath(QDir(folder).filePath(onDisk(file.fileName())));
 }
 
 QStringList resolveFolders(const QStringList& paths) {
@@ -57,102 +60,83 @@ QStringList resolveFolders(const QStringList& paths) {
     return resolved;
 }
 
-// What the name field holds when it holds several.
-QStringList quotedNames(const QString& text) {
-    const QStringList parts = text.split('"');
-    QStringList names;
-    for (qsizetype i = 1; i < parts.size(); i += 2)
-        names.append(parts[i]);
-    return names;
+// By the toolkit's dialog: quotation marks are its way to write several names into one field, so that
+// "say "hi".tif" would come back as "hi", and what begins with a colon is a resource of the program.
+bool isMisread(const QString& name) {
+    return name.contains('"') || name.startsWith(':');
 }
 
-// Which of some names each path is meant by, spelled alike or not.
-class Positions {
-public:
-    Positions(const QStringList& names, const QDir& folder) : m_nBehind(names.size()) {
-        QStringList paths;
-        for (const QString& name : names)
-            paths.append(
-                QDir::cleanPath(folder.absoluteFilePath(QDir::fromNativeSeparators(name))));
-        for (qsizetype i = 0; i < paths.size(); ++i)
-            add(paths[i], i);
-        for (qsizetype i = 0; i < paths.size(); ++i)
-            add(QFileInfo(paths[i]).canonicalFilePath(), i);
-    }
+bool endsInMisreadName(const QString& path) {
+    return isMisread(QFileInfo(path).fileName());
+}
 
-    // Behind all of them, if none is meant.
-    qsizetype of(const QString& path) const {
-        const auto found = m_found.constFind(path);
-        return found != m_found.cend()
-                   ? *found
-                   : m_found.value(QFileInfo(path).canonicalFilePath(), m_nBehind);
-    }
-
-private:
-    void add(const QString& path, qsizetype position) {
-        if (!m_found.contains(path))
-            m_found.insert(path, position);
-    }
-
-    qsizetype m_nBehind;
-    QHash<QString, qsizetype> m_found;
-};
-
-// The toolkit's dialog reads quotation marks as its way to write several names into one field, also
-// where one file is asked for: a file "say "hi".tif" would come back as "hi". This one takes them as
-// part of the name unless several are asked for.
+// The toolkit's dialog, but what is typed is the name of a file. Quotation marks are part of it unless several
+// names are asked for.
 class Dialog : public QFileDialog {
 public:
     using QFileDialog::QFileDialog;
 
+    void fillIn(const QString& fileName);
     QStringList chosenFiles() const {
-        return m_sQuoted.isEmpty() ? inTheOrderTyped(selectedFiles()) : QStringList(m_sQuoted);
+        return m_sChosen.isEmpty() ? selectedFiles() : QStringList(m_sChosen);
     }
 
 protected:
     void accept() override;
 
 private:
-    void acceptQuoted(const QFileInfo& file);
+    QLineEdit* nameField() const { return findChild<QLineEdit*>("fileNameEdit"); }
     QString typed() const;
-    QStringList inTheOrderTyped(QStringList files) const;
+    void acceptOne(const QFileInfo& file);
+    void goByNameField();
 
-    QString m_sQuoted; ///< The path chosen, if the name has quotation marks.
+    QString m_sChosen; ///< The path, if its name would be misread.
 };
 
 QString Dialog::typed() const {
-    const auto* field = findChild<QLineEdit*>("fileNameEdit"); // null in the platform's dialog
+    const QLineEdit* const field = nameField(); // null in the platform's dialog
     return field ? field->text() : QString();
 }
 
-// The toolkit's dialog selects in its list what is typed, and loses the order when it sorts the list anew, as it
-// does whenever it has read more of the folder.
-QStringList Dialog::inTheOrderTyped(QStringList files) const {
-    if (files.size() < 2)
-        return files;
-    const Positions positions(quotedNames(typed()), directory());
-    std::stable_sort(files.begin(), files.end(), [&](const QString& one, const QString& other) {
-        return positions.of(one) < positions.of(other);
-    });
-    return files;
+void Dialog::fillIn(const QString& fileName) {
+    QLineEdit* const field = nameField();
+    if (field && fileName.startsWith(':'))
+        field->setText(fileName);
+    else if (!fileName.isEmpty())
+        selectFile(fileName);
 }
 
 void Dialog::accept() {
     const QString name = typed();
-    if (name.contains('"') && fileMode() != ExistingFiles)
-        acceptQuoted(QFileInfo(directory(), name));
-    else
+    const bool several = fileMode() == ExistingFiles && name.contains('"');
+    if (isMisread(name) && !several) {
+        acceptOne(QFileInfo(directory(), onDisk(name)));
+    } else {
+        goByNameField();
         QFileDialog::accept();
+    }
 }
 
 // As for other names: a folder is entered, and what is to be opened must be there.
-void Dialog::acceptQuoted(const QFileInfo& file) {
+void Dialog::acceptOne(const QFileInfo& file) {
     if (file.isDir()) {
         setDirectory(file.absoluteFilePath());
     } else if (file.exists() || fileMode() == AnyFile) {
-        m_sQuoted = file.absoluteFilePath();
+        m_sChosen = file.absoluteFilePath();
         done(Accepted);
     }
+}
+
+// The toolkit's dialog selects in its list what is typed, and takes what is selected. A name that is not in
+// the list, because there is no such file or the filter hides it, would be left out without a word, one typed
+// twice would count once, and the order is lost when the list is sorted anew, as it is whenever more of the
+// folder has been read. With nothing selected the dialog goes by the name field and tells of a missing file.
+void Dialog::goByNameField() {
+    auto* const list = findChild<QListView*>("listView");
+    const QStringList selected = selectedFiles();
+    if (list && typed().contains('"') &&
+        std::none_of(selected.begin(), selected.end(), endsInMisreadName))
+        list->clearSelection();
 }
 
 // A dialog object and not the toolkit's static functions: those take no object name and ask about
@@ -189,8 +173,7 @@ QString FileDialog::getOpenFileName(const QString& startWith, const QString& fil
     const QString fileName = takeStartPath(startWith);
     Dialog* dialog = makeDialog(filter, parent, name, caption);
     dialog->setFileMode(QFileDialog::ExistingFile);
-    if (!fileName.isEmpty())
-        dialog->selectFile(fileName);
+    dialog->fillIn(fileName);
     return first(run(dialog));
 }
 
@@ -208,8 +191,7 @@ QString FileDialog::getSaveFileName(const QString& startWith, const QString& fil
     Dialog* dialog = makeDialog(filter, parent, name, caption);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    if (!fileName.isEmpty())
-        dialog->selectFile(fileName);
+    dialog->fillIn(fileName);
     return first(run(dialog));
 }
 

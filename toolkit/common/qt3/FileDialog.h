@@ -41,7 +41,7 @@ public:
 
     /// \a dir is a folder. Here a file is no start path. The paths come in the order of the name field:
     /// as typed, or, when files are clicked, as they are listed on Qt 3.3 and as they were clicked on
-    /// Qt 6.
+    /// Qt 6. While one of them does not exist, a box of the toolkit's says so and the dialog stays open.
     static QStringList getOpenFileNames(const QString& filter, const QString& dir, QWidget* parent,
                                         const char* name, const QString& caption);
 
