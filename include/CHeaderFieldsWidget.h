@@ -52,19 +52,26 @@ public:
     CHeaderFieldsWidget& operator=(const CHeaderFieldsWidget& other);
     ~CHeaderFieldsWidget();
 
-    /// Shows a spacing in metres, with six significant digits, and keeps it as the known one. The z
-    /// field is written even if it is disabled. Ends with onComboUnitTextChanged("m").
+    /// Shows a spacing in metres, with six significant digits and in the unit "m", and keeps it as the
+    /// known one. The z field is written even if it is disabled. Ends with onComboUnitTextChanged("m").
     void SetSpacings(double x, double y, double z);
 
     /// Fills the form. The spacing is shown in the unit that is natural for its largest part, and
-    /// for a two-dimensional image the z field is disabled, for good. What the image does not have
-    /// leaves its field as it was, but the unit then becomes "m".
+    /// for a two-dimensional image the z field is disabled, for good. A one-dimensional image shows
+    /// 0 m, whatever its spacing is. What the image does not have leaves its field as it was; without a
+    /// spacing the unit becomes "m" all the same.
     void ReadAttributesFromImage(const CImage& image);
 
     /// Writes the form into the image: creator, history and description always, the spacing if it
-    /// differs from the one read, with a history entry "ChangeSpacing(old->new)". If the image has
-    /// computed features, which a new spacing makes stale, a box asks whether to remove them.
-    /// A spacing field that is no number falls back to the stored spacing.
+    /// differs from the one read or set last, with a history entry "ChangeSpacing(old->new)". If the
+    /// image has computed features, which a new spacing makes stale, a box under the application's main
+    /// widget asks whether to remove them. The stored spacing stays as it was: read the image again
+    /// before the next write.
+    ///
+    /// While the z field is enabled, the stored z is compared with the new x: a new z alone goes
+    /// unnoticed where the two are equal, and where they are not, each write counts as a change.
+    /// A spacing field that is no number counts as the stored spacing multiplied by the size of the
+    /// unit in metres, or as one unit while none is stored.
     /// \return false if the user kept the features (then spacing, features and history entry are
     /// not
     ///         touched), otherwise true, also when nothing has changed.

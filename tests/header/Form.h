@@ -3,6 +3,7 @@
 
 #include "CHeaderFieldsWidget.h"
 #include "Events.h"
+#include "Recorder.h"
 
 #include <gtest/gtest.h>
 #include <qt3/Text.h>
@@ -46,6 +47,16 @@ inline void setShownTexts(Form& form, const std::vector<std::string>& texts) {
     form.creatorLine->setText(qt3::fromAscii(texts[0]));
     form.descriptionText->setText(qt3::fromAscii(texts[1]));
     form.historyText->setText(qt3::fromAscii(texts[2]));
+}
+
+/// Lets the recorder hear each field that gets a new text.
+inline void tapFields(support::Recorder& recorder, const TEVU::CHeaderFieldsWidget& form) {
+    recorder.tap(form.xSpacingLine, "textChanged(const QString&)", "x");
+    recorder.tap(form.ySpacingLine, "textChanged(const QString&)", "y");
+    recorder.tap(form.zSpacingLine, "textChanged(const QString&)", "z");
+    recorder.tap(form.creatorLine, "textChanged(const QString&)", "creator");
+    recorder.tap(form.descriptionText, "textChanged()", "description");
+    recorder.tap(form.historyText, "textChanged()", "history");
 }
 
 /// All texts of the form but those of the fields.

@@ -184,6 +184,22 @@ TEST(ReadAttributes, KeepWhatLooksLikeMarkup) {
     EXPECT_EQ(shownTexts(form), markup);
 }
 
+TEST(ReadAttributes, FillTheFieldsInOrderAndEachOnce) {
+    CImage image = makeImage(3, {1e-6, 2e-6, 3e-6});
+    setCreator(image, "Ada");
+    setDescription(image, "a test");
+    setHistory(image, "Open");
+    Form form;
+    support::Recorder recorder;
+    tapFields(recorder, form);
+
+    form.ReadAttributesFromImage(image);
+
+    EXPECT_EQ(recorder.take(), (Lines{"x.textChanged(\"1\")", "y.textChanged(\"2\")",
+                                      "z.textChanged(\"3\")", "creator.textChanged(\"Ada\")",
+                                      "history.textChanged()", "description.textChanged()"}));
+}
+
 TEST(ReadAttributes, LeaveTheImageAlone) {
     HeaderToolsJournal journal;
     const CImage image = makeImage(3);

@@ -1,4 +1,5 @@
 #include "Form.h"
+#include "ImageHeaders.h"
 #include "Recorder.h"
 
 #include <gtest/gtest.h>
@@ -163,6 +164,38 @@ TEST(HeaderSetSpacings, EndsWithTheUnitChangeOfASubclass) {
     EXPECT_EQ(form.m_recorder.take(), Lines{"m: 1.23457e+06"});
 }
 
+TEST(HeaderSetSpacings, WriteTheFieldsInOrderAndThenRewriteThemInOrder) {
+    Form form;
+    support::Recorder recorder;
+    tapFields(recorder, form);
+
+    form.SetSpacings(1234567.0, 2345678.0, 3456789.0);
+
+    EXPECT_EQ(recorder.take(),
+              (Lines{"x.textChanged(\"1.23457e+06\")", "y.textChanged(\"2.34568e+06\")",
+                     "z.textChanged(\"3.45679e+06\")", "x.textChanged(\"1234570\")",
+                     "y.textChanged(\"2345680\")", "z.textChanged(\"3456790\")"}));
+}
+
+/// Writes what it knows into an image instead of changing the unit.
+class WritingForm : public Form {
+public:
+    void onComboUnitTextChanged(const QString&) override {
+        setSpacingFields(*this, {"", "", ""});
+        WriteAttributesToImage(m_image);
+    }
+
+    TEVU::CImage m_image = makeImage(3);
+};
+
+TEST(HeaderSetSpacings, KeepThemBeforeTheUnitChangeOfASubclass) {
+    WritingForm form;
+
+    form.SetSpacings(2.0, 3.0, 4.0);
+
+    expectSpacing(form.m_image, {2.0, 3.0, 4.0});
+}
+
 // Unit changes.
 
 struct StConversion {
@@ -241,6 +274,18 @@ TEST(HeaderUnitChange, ThereAndBackGivesTheSameFields) {
     form.onComboUnitTextChanged("mm");
 
     EXPECT_EQ(spacingFields(form), (Fields{"1.5", "2.25", "3"}));
+}
+
+TEST(HeaderUnitChange, ConvertsTheFieldsInOrderAndEachOnce) {
+    Form form;
+    setSpacingFields(form, {"1", "2", "3"});
+    support::Recorder recorder;
+    tapFields(recorder, form);
+
+    form.onComboUnitTextChanged("nm");
+
+    EXPECT_EQ(recorder.take(), (Lines{"x.textChanged(\"1000\")", "y.textChanged(\"2000\")",
+                                      "z.textChanged(\"3000\")"}));
 }
 
 TEST(HeaderUnitChange, LeavesADisabledZFieldUnconverted) {
