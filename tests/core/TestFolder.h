@@ -15,7 +15,9 @@
 class TestFolder {
 public:
     TestFolder() {
-        const std::filesystem::path temporary = std::filesystem::temp_directory_path();
+        // Without links in it, as the system names the files that are open there.
+        const std::filesystem::path temporary =
+            std::filesystem::canonical(std::filesystem::temp_directory_path());
         m_sPath = support::makeFreshFolder((temporary / "core-").generic_string());
         EXPECT_NE(m_sPath, "");
         support::giveAway(m_sPath, c_nOrdinaryUser);

@@ -35,11 +35,11 @@ StTracedRun runTraced(const std::string& arguments, const std::string& traceFile
     // memory before the save, and its length decides how many reads that takes: a call's ordinal in
     // one process would be another call's in the next.
     std::string command =
-        "ASAN_OPTIONS=detect_leaks=0 setarch -R strace -qq -y -s 200 -o " + traceFile;
+        "ASAN_OPTIONS=detect_leaks=0 setarch -R strace -qq -y -s 200 -o \"" + traceFile + '"';
     if (!fault.empty())
         command += " -e inject=" + fault;
     StTracedRun run;
-    run.output = outputOf(command + " " SAVE_ONCE " " + arguments + " 2>/dev/null");
+    run.output = outputOf(command + " \"" SAVE_ONCE "\" " + arguments + " 2>/dev/null");
 
     std::ifstream trace(traceFile);
     std::map<std::string, int> ordinals;

@@ -18,7 +18,7 @@ struct StTracedRun {
     bool injected = false; ///< One of the calls was made to fail.
 };
 
-/// Runs SAVE_ONCE with these arguments under strace. \a fault is empty or what strace calls an
+/// Runs SAVE_ONCE with these arguments, as the shell reads them, under strace. \a fault is empty or what strace calls an
 /// injection, "fsync:error=EIO:when=1".
 StTracedRun runTraced(const std::string& arguments, const std::string& traceFile,
                       const std::string& fault);

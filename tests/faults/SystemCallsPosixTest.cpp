@@ -13,8 +13,8 @@ namespace {
 
 template <class Stored>
 StTracedRun save(const Stored& stored, const TestFolder& traces, const std::string& fault = "") {
-    return runTraced(std::string(Stored::c_sKind) + " " + stored.Path(), traces.Path("trace"),
-                     fault);
+    return runTraced(std::string(Stored::c_sKind) + " \"" + stored.Path() + '"',
+                     traces.Path("trace"), fault);
 }
 
 template <class Stored>
