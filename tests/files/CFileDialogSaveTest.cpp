@@ -1,6 +1,7 @@
 #include <CFileDialog.h>
 
 #include "FileDialogTest.h"
+#include "RegistryJournal.h"
 #include "ScriptedUser.h"
 
 #include <AsciiLetters.h>
@@ -1155,6 +1156,18 @@ TEST_F(CFileDialogSaveTest, LoadingDirectoryStaysAsItIs) {
 
     EXPECT_EQ(CRegistry::Obj().EntryString("main/globalsettings/IO/loadingdir"),
               dir.path("images"));
+}
+
+TEST_F(CFileDialogSaveTest, HistoryIsMovedOnFromItsEndBehindTheDirectory) {
+    CFileDialog dialog;
+    EXPECT_TRUE(save(dialog, dir.path("1.png")));
+    const RegistryJournal registry;
+
+    EXPECT_TRUE(save(dialog, results() + "/2.png"));
+
+    EXPECT_EQ(registry.writes(), (Lines{"savingdir=" + dir.path("results"), "lastimage3=",
+                                        "lastimage2=", "lastimage1=" + dir.path("1.png"),
+                                        "lastimage0=" + dir.path("results/2.png")}));
 }
 
 TEST_F(CFileDialogSaveTest, HistoryHoldsOpenedAndSavedFilesAndOneOfThemTwice) {

@@ -114,6 +114,7 @@ TEST_F(CFileLineWidgetTest, TellsItsClassOneProtectedSlotAndNoSignal) {
     EXPECT_EQ(slotsOfLine[0].signature, "SlotOpenFileDialog()");
     EXPECT_EQ(slotsOfLine[0].access, qt3::Method::Protected);
     EXPECT_TRUE(qt3::signalTable(&line).empty());
+    EXPECT_EQ(qt3::furtherEntries(&line), 0);
 }
 
 TEST_F(CFileLineWidgetTest, ModesHaveTheirNumbers) {

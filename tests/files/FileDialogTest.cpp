@@ -57,11 +57,6 @@ void writeLinesOfArguments(Output& output, const Arguments& arguments) {
     writeLines(output, task({arguments.begin() + 1, arguments.end()}));
 }
 
-std::string shortKey(const TEVU::CValue_Key& key) {
-    const std::string whole = key.String();
-    return whole.rfind(c_keys, 0) == 0 ? whole.substr(std::string(c_keys).size()) : whole;
-}
-
 #ifdef _WIN32
 /// Programs start slowly there, so tests share a process where they can, and with it the registry object, which
 /// keeps to its first file.
@@ -78,6 +73,11 @@ void beginWithAnEmptyRegistry(const support::TempDir& dir) {
 #endif
 
 } // namespace
+
+std::string FileDialogTest::shortKey(const TEVU::CValue_Key& key) {
+    const std::string whole = key.String();
+    return whole.rfind(c_keys, 0) == 0 ? whole.substr(std::string(c_keys).size()) : whole;
+}
 
 FileDialogTest::FileDialogTest() {
     beginWithAnEmptyRegistry(dir);

@@ -8,6 +8,7 @@
 #include <TempDir.h>
 #include <gtest/gtest.h>
 #include <qstring.h>
+#include <ruqlib2core/CValue_Key.h>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,9 @@ public:
 
     /// All entries as "loadingdir=/data", sorted; the common part of the keys is left out.
     static Lines remembered();
+
+    /// \a key without the common part.
+    static std::string shortKey(const TEVU::CValue_Key& key);
 
 protected:
     FileDialogTest();
