@@ -56,6 +56,7 @@ StTracedRun runTraced(const std::string& arguments, const std::string& traceFile
             run.injected = run.injected || line.find("(INJECTED)") != std::string::npos;
         }
     }
+    run.survived = marks == 2;
     if (marks == 0)
         throw std::runtime_error("strace does not trace here: " + command);
     return run;

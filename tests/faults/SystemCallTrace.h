@@ -16,6 +16,7 @@ struct StTracedRun {
     std::vector<StSystemCall> calls;
     std::string output;
     bool injected = false; ///< One of the calls was made to fail.
+    bool survived = false; ///< It came to the second mark.
 };
 
 /// Runs SAVE_ONCE with these arguments, as the shell reads them, under strace. \a fault is empty or what strace calls an
