@@ -33,9 +33,10 @@ StTracedRun runTraced(const std::string& arguments, const std::string& traceFile
     // Leaks cannot be looked for in a traced process; they are in the runs without strace.
     // At addresses that are always the same, because a sanitizer reads the list of its process's
     // memory before the save, and its length decides how many reads that takes: a call's ordinal in
-    // one process would be another call's in the next.
-    std::string command =
-        "ASAN_OPTIONS=detect_leaks=0 setarch -R strace -qq -y -s 200 -o \"" + traceFile + '"';
+    // one process would be another call's in the next. So would it with one variable more or less.
+    std::string command = "env -i PATH=\"$PATH\" ASAN_OPTIONS=detect_leaks=0 "
+                          "setarch -R strace -qq -y -s 200 -o \"" +
+                          traceFile + '"';
     if (!fault.empty())
         command += " -e inject=" + fault;
     StTracedRun run;
