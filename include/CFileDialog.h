@@ -101,9 +101,9 @@ public:
 
     bool WasFileSelected() const; ///< What the asking constructor got; false after the plain one.
 
-    std::string FilePath() const;               ///< The first path; empty when there is none.
-    std::vector<std::string> FilePaths() const; ///< All paths, in the order of the dialog.
-    QStringList FilePathsAsQStringList() const; ///< The same as the toolkit's texts.
+    std::string FilePath() const;                ///< The first path; empty when there is none.
+    std::vector<std::string> FilePaths() const;  ///< All paths, in the order of the dialog.
+    QStringList FilePathsAsQStringList() const;  ///< The same as the toolkit's texts.
     CValueVector FilePathsAsValueVector() const; ///< A CValueString for each path, at 0, 1, 2, …
 
     /// The extension of the first path without its dot, in upper or lower case. Behind ".gz" it has
