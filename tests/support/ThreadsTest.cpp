@@ -8,23 +8,25 @@ namespace {
 
 using namespace std::chrono_literals;
 
-std::atomic<int> s_nGone = 0;
-
+/// The last thing that a thread does which has one.
 struct LastWords {
     ~LastWords() {
         std::this_thread::yield();
-        ++s_nGone;
+        ++*m_pGone;
     }
+
+    std::atomic<int>* m_pGone;
 };
 
 TEST(Threads, AreWaitedForUntilTheyAreGoneAltogether) {
     const std::ptrdiff_t before = support::countThreads();
+    std::atomic<int> gone = 0;
     for (int i = 1; i <= 20; ++i) {
-        std::thread([] { thread_local const LastWords s_words; }).detach();
+        std::thread([&] { thread_local const LastWords s_words{&gone}; }).detach();
 
-        EXPECT_TRUE(support::threadsEndDownTo(before, 60s));
+        ASSERT_TRUE(support::threadsEndDownTo(before, 60s));
 
-        EXPECT_EQ(s_nGone, i);
+        EXPECT_EQ(gone, i);
     }
 }
 

@@ -419,94 +419,81 @@ TEST_P(FileDialogForOne, StartFolderOfTheProgramsOwnResourcesIsNoFolder) {
 INSTANTIATE_TEST_SUITE_P(All, FileDialogForOne, testing::Values(c_ways[0], c_ways[2]),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST(FileDialog, SeveralComeInTheOrderTyped) {
-    const support::TempDir dir;
-    const std::string a = dir.writeFile("a.tif");
-    const std::string b = dir.writeFile("b b.tif");
-    const std::string c = dir.writeFile("c.tif");
-    ModalDriver driver;
-    driver.expectFileDialog({}).chooseSeveral({"c.tif", "a.tif", "b b.tif"});
+/// Some files in a folder, of which the user chooses several.
+class FileDialogForSeveral : public testing::Test {
+protected:
+    Lines run() const { return openSeveral(m_dir.path()); }
 
-    EXPECT_EQ(openSeveral(dir.path()), (Lines{c, a, b}));
+    const support::TempDir m_dir;
+    const std::string m_sA = m_dir.writeFile("a.tif");
+    const std::string m_sB = m_dir.writeFile("b b.tif");
+    const std::string m_sC = m_dir.writeFile("c.tif");
+    ModalDriver m_driver;
+};
+
+TEST_F(FileDialogForSeveral, ComeInTheOrderTyped) {
+    m_driver.expectFileDialog({}).chooseSeveral({"c.tif", "a.tif", "b b.tif"});
+
+    EXPECT_EQ(run(), (Lines{m_sC, m_sA, m_sB}));
 }
 
 // As happens by itself whenever the folder has been read further.
-TEST(FileDialog, SeveralComeInTheOrderTypedThoughTheListIsSortedMeanwhile) {
-    const support::TempDir dir;
-    const std::string a = dir.writeFile("a.tif");
-    const std::string b = dir.writeFile("b b.tif");
-    const std::string c = dir.writeFile("c.tif");
-    ModalDriver driver;
-    driver.expectFileDialog({})
+TEST_F(FileDialogForSeveral, ComeInTheOrderTypedThoughTheListIsSortedMeanwhile) {
+    m_driver.expectFileDialog({})
         .before([&] {
             QWidget* const dialog = QApplication::activeModalWidget();
-            support::typeFileName(dialog, "\"" + a + "\" \"c.tif\" \"./b b.tif\"");
+            support::typeFileName(dialog, "\"" + m_sA + "\" \"c.tif\" \"./b b.tif\"");
             sortList(dialog);
             support::acceptFileName(dialog);
         })
         .cancel();
 
-    EXPECT_EQ(openSeveral(dir.path()), (Lines{a, c, b}));
+    EXPECT_EQ(run(), (Lines{m_sA, m_sC, m_sB}));
 }
 
-TEST(FileDialog, SeveralAreTheNamesTypedAlsoTwiceTheSame) {
-    const support::TempDir dir;
-    const std::string a = dir.writeFile("a.tif");
-    const std::string b = dir.writeFile("b.tif");
-    ModalDriver driver;
-    driver.expectFileDialog({}).chooseSeveral({"b.tif", "a.tif", "b.tif"});
+TEST_F(FileDialogForSeveral, AreTheNamesTypedAlsoTwiceTheSame) {
+    m_driver.expectFileDialog({}).chooseSeveral({"c.tif", "a.tif", "c.tif"});
 
-    EXPECT_EQ(openSeveral(dir.path()), (Lines{b, a, b}));
+    EXPECT_EQ(run(), (Lines{m_sC, m_sA, m_sC}));
 }
 
-TEST(FileDialog, SeveralMayBeFilesThatTheFilterHides) {
-    const support::TempDir dir;
-    const std::string a = dir.writeFile("a.tif");
-    const std::string hidden = dir.writeFile("b.txt");
-    const std::string c = dir.writeFile("c.tif");
-    ModalDriver driver;
-    driver.expectFileDialog({}).chooseSeveral({"c.tif", "b.txt", "a.tif"});
+TEST_F(FileDialogForSeveral, MayBeFilesThatTheFilterHides) {
+    const std::string hidden = m_dir.writeFile("b.txt");
+    m_driver.expectFileDialog({}).chooseSeveral({"c.tif", "b.txt", "a.tif"});
 
-    EXPECT_EQ(openSeveral(dir.path()), (Lines{c, hidden, a}));
+    EXPECT_EQ(run(), (Lines{m_sC, hidden, m_sA}));
 }
 
-TEST(FileDialog, SeveralThatAreSelectedInTheListMayHaveQuotationMarks) {
+TEST_F(FileDialogForSeveral, ThatAreSelectedInTheListMayHaveQuotationMarks) {
     NOT_ON_WINDOWS(noSuchNames);
-    const support::TempDir dir;
-    const std::string a = dir.writeFile("a.tif");
-    const std::string quoted = dir.writeFile("say \"hi\".tif");
-    ModalDriver driver;
-    driver.expectFileDialog({})
+    const std::string quoted = m_dir.writeFile("say \"hi\".tif");
+    m_driver.expectFileDialog({})
         .before([] {
             selectInList(QApplication::activeModalWidget(), {"a.tif", "say \"hi\".tif"});
         })
         .accept();
 
-    EXPECT_EQ(openSeveral(dir.path()), (Lines{a, quoted}));
+    EXPECT_EQ(run(), (Lines{m_sA, quoted}));
 }
 
 // In a box of the toolkit's own.
-TEST(FileDialog, MissingOneOfSeveralIsToldOfAndLeavesTheDialogOpenAsItWas) {
-    const support::TempDir dir;
-    const std::string a = dir.writeFile("a.tif");
-    const std::string c = dir.writeFile("c.tif");
+TEST_F(FileDialogForSeveral, MissingOneIsToldOfAndLeavesTheDialogOpenAsItWas) {
     const std::string names = "\"c.tif\" \"b.tif\" \"a.tif\"";
     std::string stillTyped;
-    ModalDriver driver;
-    driver.expectFileDialog({})
+    m_driver.expectFileDialog({})
         .before([&] {
             acceptTyped(names);
             if (QWidget* const dialog = QApplication::activeModalWidget())
                 stillTyped = support::typedFileName(dialog);
         })
         .chooseSeveral({"c.tif", "a.tif"});
-    driver.expectMessage({{}, {}, {"OK"}}).enter();
+    m_driver.expectMessage({{}, {}, {"OK"}}).enter();
 
-    EXPECT_EQ(openSeveral(dir.path()), (Lines{c, a}));
+    EXPECT_EQ(run(), (Lines{m_sC, m_sA}));
 
     EXPECT_EQ(stillTyped, names);
-    ASSERT_EQ(driver.log().size(), 2u);
-    EXPECT_NE(driver.log()[1].find("b.tif\\n"), std::string::npos) << driver.log()[1];
+    ASSERT_EQ(m_driver.log().size(), 2u);
+    EXPECT_NE(m_driver.log()[1].find("b.tif\\n"), std::string::npos) << m_driver.log()[1];
 }
 
 TEST(FileDialog, MissingFileWithQuotationMarksLeavesTheDialogOpen) {
