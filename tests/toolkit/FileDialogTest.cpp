@@ -6,6 +6,7 @@
 #include "ModalDriver.h"
 #include "TempDir.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
@@ -473,7 +474,10 @@ TEST_F(FileDialogForSeveral, ThatAreSelectedInTheListMayHaveQuotationMarks) {
         })
         .accept();
 
-    EXPECT_EQ(run(), (Lines{m_sA, quoted}));
+    // What is clicked comes as it is listed on Qt 3.3, which keeps an order that another dialog was given.
+    Lines chosen = run();
+    std::sort(chosen.begin(), chosen.end());
+    EXPECT_EQ(chosen, (Lines{m_sA, quoted}));
 }
 
 // In a box of the toolkit's own.
